@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QObject>
+
+#include "entry_rules.h"
+#include "number_locale.h"
+
+class QFocusEvent;
+class QKeyEvent;
+
+/// Watches one entry box: it keeps barred keys out, selects the text when the user comes to the box and tells
+/// when the user leaves it for another control of the window. What a changed or left box means is the
+/// window's business.
+class EntryField : public QObject {
+  Q_OBJECT
+
+ public:
+  EntryField(QLineEdit& box, EntryKind kind, NumberLocale locale);
+
+ signals:
+  /// The focus went to another control of the same window: not to a menu, a popup or another window.
+  void left();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  /// True if the key must not reach the box.
+  bool isBarred(const QKeyEvent& key);
+  void focusGained(const QFocusEvent& focus);
+  void focusLost(const QFocusEvent& focus);
+
+  QLineEdit& m_box;
+  EntryKind m_kind;
+  NumberLocale m_locale;
+};

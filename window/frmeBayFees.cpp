@@ -1,0 +1,215 @@
+#include "frmeBayFees.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+#include "tagged_strings.h"
+
+using Localization::GetTagString;
+
+namespace {
+
+// The designed size, in twips. The outer heights include the window's caption and menu bar.
+constexpr int kTwipsPerInch = 1440;
+constexpr int kClientWidth = 11475;
+constexpr int kHeightWithNotepad = 8415;
+constexpr int kHeightWithoutNotepad = 6600;
+constexpr int kCaptionAndMenuHeight = 840;
+
+#ifdef Q_OS_WIN
+constexpr QLatin1StringView kProgramFile("Tessaloom.exe");
+#else
+constexpr QLatin1StringView kProgramFile("Tessaloom");
+#endif
+
+}  // namespace
+
+frmeBayFees::frmeBayFees(const Surroundings& surroundings) : m_surroundings(surroundings) {
+  m_form.setupUi(this);
+  m_single.setupUi(m_form.tabSingleItem);
+  m_multiple.setupUi(m_form.tabMultipleItems);
+  m_payment.setupUi(m_form.tabPaymentServices);
+  m_shipping.setupUi(m_form.tabShipping);
+  prepareLayout();
+  prepareMenus();
+  connectMenus();
+  connectTabs();
+  connectEntryFields();
+  disableWhatDoesNothingYet();
+}
+
+frmeBayFees::~frmeBayFees() = default;
+
+void frmeBayFees::prepareLayout() {
+  layout()->setSizeConstraint(QLayout::SetFixedSize);
+  // What comes and goes with a choice keeps its place, so that nothing else moves.
+  for (QWidget* control : std::initializer_list<QWidget*>{
+           m_single.cboIsReserve, m_single.optMotorcycle, m_single.optOtherVehicle,
+           m_single.linVerticalLineToVehicleType, m_single.linHorizontalLineToMotorcycle,
+           m_single.linHorizontalLineToOtherVehicle, m_single.cboRealEstateType, m_single.optTimeshare,
+           m_single.optOtherRealEstate, m_multiple.chkEBayMotorsDutch}) {
+    QSizePolicy policy = control->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    control->setSizePolicy(policy);
+  }
+  // The pages were filled after the form around them: the notepad's controls come last.
+  const std::array<QWidget*, 6> last{m_shipping.lblPacking,  m_form.cmdNotepad,      m_form.cmdPrintNotepad,
+                                     m_form.cmdCopyNotepad, m_form.cmdClearNotepad, m_form.txtNotes};
+  for (std::size_t at = 1; at < last.size(); ++at) setTabOrder(last[at - 1], last[at]);
+}
+
+void frmeBayFees::prepareMenus() {
+  for (QAction* separator :
+       {m_form.Break, m_form.sep1, m_form.mnuHelpBreak, m_form.mnuHelpSep2, m_form.mnuHelpSep3,
+        m_form.mnuHelpSourcesDiv3, m_form.mnuHelpSourcesDiv, m_form.mnuHelpSourcesDiv2}) {
+    separator->setSeparator(true);
+  }
+  for (std::size_t index = 0; index < m_mnuLang.size(); ++index) {
+    m_mnuLang[index] = m_form.menuLang->addAction(QString());
+    m_mnuLang[index]->setObjectName(QStringLiteral("mnuLang_%1").arg(index));
+    m_mnuLang[index]->setCheckable(true);
+    m_mnuLang[index]->setVisible(false);
+  }
+}
+
+void frmeBayFees::connectMenus() {
+  on(m_form.mnuFileNewWindow, &QAction::triggered, &frmeBayFees::mnuFileNewWindow_Click);
+  on(m_form.mnuFileExit, &QAction::triggered, &frmeBayFees::mnuFileExit_Click);
+  on(m_form.mnuOptionsOnTop, &QAction::triggered, &frmeBayFees::mnuOptionsOnTop_Click);
+  on(m_form.cmdNotepad, &QPushButton::clicked, &frmeBayFees::cmdNotepad_Click);
+}
+
+void frmeBayFees::connectTabs() { connectSingleItemTab(); }
+
+void frmeBayFees::disableWhatDoesNothingYet() {
+  for (QAction* action : m_form.mnuOptionsSite->actions()) action->setEnabled(false);
+  for (QMenu* menu : {m_form.mnuHelp, m_form.mnuHelpSources}) {
+    for (QAction* action : menu->actions()) action->setEnabled(action->menu() != nullptr);
+  }
+  for (QAction* action : {m_form.mnuFilePrint, m_form.mnuOptionsSaveSettings}) action->setEnabled(false);
+  for (QPushButton* button :
+       {m_single.cmdAddRegularToNotes, m_multiple.cmdDutchCalculate, m_multiple.cmdDutchClearAll,
+        m_multiple.cmdAddDutchToNotes, m_payment.cmdCalculatePaymentFees, m_payment.cmdClearPaymentFees,
+        m_payment.cmdAddPaymentsToNotes, m_form.cmdPrintNotepad, m_form.cmdCopyNotepad,
+        m_form.cmdClearNotepad}) {
+    button->setEnabled(false);
+  }
+}
+
+void frmeBayFees::Initialize(std::shared_ptr<CStartStatus> startStatus) {
+  m_startStatus = std::move(startStatus);
+}
+
+void frmeBayFees::Form_Load() {
+  guarded([this] {
+    m_form.SSTab1->setCurrentIndex(0);
+    m_single.cboRealEstateType->setCurrentIndex(0);
+    m_site = std::make_unique<CAuctionSite>();
+    m_regularAuction = std::make_unique<CRegularAuction>(m_surroundings.locale);
+    if (m_startStatus && m_startStatus->isFirstRun()) writeFirstRunDefaults();
+    buildLanguageMenu();
+    captureCaptions();  // before any caption is replaced by its text in the current language
+    applyCaptions();
+    restoreSettings();
+  });
+  QMainWindow::show();
+}
+
+void frmeBayFees::closeEvent(QCloseEvent* event) {
+  guarded([this] { Form_Unload(); });
+  event->accept();
+}
+
+void frmeBayFees::Form_Unload() {
+  // File > Exit unloads the window, and quitting closes it again.
+  if (m_isUnloaded) return;
+  m_isUnloaded = true;
+  SaveAppSetting(QStringLiteral("Site"), QString::number(currentSite()));
+  SaveConversionRate();
+  m_site.reset();
+  m_regularAuction.reset();
+  m_startStatus.reset();
+}
+
+void frmeBayFees::mnuFileNewWindow_Click() {
+  // A fixed name beside this program, not the running file. Failure is silent: the window is a convenience.
+  const QString program = QDir(m_surroundings.programFolder).filePath(kProgramFile);
+  if (QFileInfo::exists(program)) m_surroundings.programs.start(program);
+}
+
+void frmeBayFees::mnuFileExit_Click() {
+  close();
+  QCoreApplication::quit();
+}
+
+void frmeBayFees::mnuOptionsOnTop_Click() {
+  // The check mark, which the click has just turned, is the only record of the state.
+  m_surroundings.stacking.request(*this, m_form.mnuOptionsOnTop->isChecked());
+}
+
+void frmeBayFees::cmdNotepad_Click() {
+  m_notepadVisible = !m_notepadVisible;
+  RefreshWindow();
+}
+
+// The order matters: the site's rules have the last word on the reserve list.
+void frmeBayFees::RefreshWindow() {
+  refreshVehicleControls();
+  refreshRealEstateControls();
+  refreshReserveList();
+  refreshSiteFeatures();
+  refreshNotepad();
+  refreshPhotoLists();
+}
+
+void frmeBayFees::refreshNotepad() {
+  m_form.cmdNotepad->setText(GetTagString(m_notepadVisible ? QStringLiteral("hide notepad<0628>")
+                                                           : QStringLiteral("view notepad<0629>")));
+  for (QWidget* control : std::initializer_list<QWidget*>{m_form.txtNotes, m_form.cmdClearNotepad,
+                                                          m_form.cmdCopyNotepad, m_form.cmdPrintNotepad}) {
+    control->setVisible(m_notepadVisible);
+  }
+  fitHeight();
+}
+
+void frmeBayFees::fitHeight() {
+  const auto pixels = [this](int twips) { return twips * logicalDpiY() / kTwipsPerInch; };
+  const int height = m_notepadVisible ? kHeightWithNotepad : kHeightWithoutNotepad;
+  const QSize designed(pixels(kClientWidth), pixels(height - kCaptionAndMenuHeight));
+  // Longer texts or a larger font than the design's may need more room: nothing is clipped.
+  QWidget* client = m_form.centralWidget;
+  client->layout()->activate();
+  client->setFixedSize(designed.expandedTo(client->minimumSizeHint()));
+}
+
+void frmeBayFees::refreshPhotoLists() {
+  const auto follow = [](QComboBox* list, const QCheckBox* box) {
+    list->setEnabled(box->isChecked());
+    list->setBackgroundRole(box->isChecked() ? QPalette::Base : QPalette::Button);
+  };
+  follow(m_single.cboExtraPhotos, m_single.chkExtraPhotos);
+  follow(m_multiple.cboExtraPicturesDutch, m_multiple.chkExtraPicturesDutch);
+}
+
+void frmeBayFees::reportError(const QString& description) {
+  // One message for one event, and after it: a message must not open from within a change of focus.
+  if (std::exchange(m_isErrorPending, true)) return;
+  const auto tell = [this, description] {
+    m_isErrorPending = false;
+    const QString introduction = GetTagString(QStringLiteral(
+        "An error has occured in this application.  The application has returned the following "
+        "information about this error:<0213>"));
+    m_surroundings.messages.showCritical(this, GetTagString(QStringLiteral("Error<0463>")),
+                                         introduction + QStringLiteral("\n\n") + description);
+  };
+  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+}
+
+void frmeBayFees::show(QLineEdit& box, const std::string& text) {
+  const QString shown = QString::fromStdString(text);
+  if (box.text() != shown) box.setText(shown);
+}
+
+std::string frmeBayFees::textOf(const QLineEdit& box) { return box.text().toStdString(); }

@@ -1,0 +1,165 @@
+#pragma once
+
+#include <array>
+#include <exception>
+#include <memory>
+#include <QMainWindow>
+#include <utility>
+
+#include "regular_auction.h"
+#include "single_item_tab.h"
+#include "start_status.h"
+#include "surroundings.h"
+#include "tagged_captions.h"
+#include "ui_frmeBayFees.h"
+#include "ui_multiple_items_tab.h"
+#include "ui_payment_services_tab.h"
+#include "ui_shipping_tab.h"
+#include "ui_single_item_tab.h"
+
+class EntryField;
+
+/// The calculator window. It gathers entries, shows figures and keeps the controls consistent; what a tab
+/// computes is the fee model's (single_item_tab.h).
+///
+/// Which file holds what:
+///   frmeBayFees.cpp               construction, loading, unloading, menus File and Options, the notepad's
+///   view frmeBayFees_captions.cpp      texts of the current language, price label
+///   frmeBayFees_entry_fields.cpp  what happens when an entry box changes or is left
+///   frmeBayFees_lists.cpp         the items of the lists
+///   frmeBayFees_settings.cpp      first-run defaults, restoring, storing
+///   frmeBayFees_single_item.cpp   the Single Item tab
+///   frmeBayFees_sites.cpp         what depends on the auction site
+///
+/// The way of an entry: a key passes the filter of its EntryField; the changed text must be a number or the
+/// start of one (entryChanged); when the box is left it is normalised (leave...) and the tab is recalculated:
+/// choices and texts are gathered, the fee model rewrites the texts, and they are shown.
+///
+/// Handlers are live while the program itself sets controls: a box ticked in code acts as if the user had
+/// ticked it. No error leaves a handler; see `guarded`.
+class frmeBayFees : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  explicit frmeBayFees(const Surroundings& surroundings);
+  ~frmeBayFees() override;
+
+  /// Takes over what the start found out. Once, before Form_Load.
+  void Initialize(std::shared_ptr<CStartStatus> startStatus);
+
+  /// Makes the window ready and shows it. Once.
+  void Form_Load();
+
+  /// True when opening and closing bid are both filled in.
+  [[nodiscard]] bool IsValidRegular() const;
+  /// False if the single item did not sell or its reserve was not met.
+  [[nodiscard]] bool ItemSold() const;
+  /// The place for a rule that would make listing fees follow the Motors choice. There is none.
+  void UpdateListingFees() {}
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  // Life cycle (frmeBayFees.cpp)
+  void prepareLayout();
+  void prepareMenus();
+  void connectMenus();
+  void connectTabs();
+  void disableWhatDoesNothingYet();
+  void Form_Unload();
+  void mnuFileNewWindow_Click();
+  void mnuFileExit_Click();
+  void mnuOptionsOnTop_Click();
+  void cmdNotepad_Click();
+  void RefreshWindow();
+  void refreshNotepad();
+  void refreshPhotoLists();
+  void fitHeight();
+
+  // Captions (frmeBayFees_captions.cpp)
+  void captureCaptions();
+  void applyCaptions();
+  void buildLanguageMenu();
+  void choosePriceLabel();
+
+  // Entry fields (frmeBayFees_entry_fields.cpp)
+  struct EntryRow;
+  void connectEntryFields();
+  void entryChanged(const EntryRow& row);
+  void raiseToGermanMinimum();
+  void leaveStartingPrice();
+  void leavePrice();
+
+  // Lists (frmeBayFees_lists.cpp)
+  void fillLists();
+
+  // Settings (frmeBayFees_settings.cpp)
+  void writeFirstRunDefaults();
+  void restoreSettings();
+  void SaveAppSetting(const QString& key, const QString& value);
+  void SaveConversionRate();
+
+  // Single Item tab (frmeBayFees_single_item.cpp)
+  void connectSingleItemTab();
+  void recalculateSingleItemTab();
+  [[nodiscard]] SingleItemChoices singleItemChoices() const;
+  [[nodiscard]] SingleItemBoxes singleItemBoxes() const;
+  void showSingleItemBoxes(const SingleItemBoxes& boxes);
+  void chkDidNotSell_Click();
+  void chkGallery_Click();
+  void chkMotors_Click();
+  void cboSingleItemType_Click();
+  void cboIsReserve_Click();
+  void cmdClearAll_Click();
+  void refreshVehicleControls();
+  void refreshRealEstateControls();
+  void refreshReserveList();
+
+  // Sites (frmeBayFees_sites.cpp)
+  [[nodiscard]] int currentSite() const;
+  void refreshSiteFeatures();
+  void SetRealEstateAvailable(bool isAvailable);
+
+  // Helpers of all files
+  /// Runs a handler. An error in it is reported and ends there: the program goes on.
+  template <typename Handler>
+  void guarded(Handler&& handler) noexcept;
+  void reportError(const QString& description);
+  /// Connects a signal to a guarded member, whatever the signal carries.
+  template <typename Sender, typename Signal>
+  void on(Sender* sender, Signal signal, void (frmeBayFees::*handler)());
+  /// Shows a text in a box, unless it stands there already.
+  static void show(QLineEdit& box, const std::string& text);
+  [[nodiscard]] static std::string textOf(const QLineEdit& box);
+
+  Surroundings m_surroundings;
+  Ui::frmeBayFees m_form;
+  Ui::SingleItemTab m_single;
+  Ui::MultipleItemsTab m_multiple;
+  Ui::PaymentServicesTab m_payment;
+  Ui::ShippingTab m_shipping;
+  std::array<QAction*, 11> m_mnuLang{};
+  TaggedCaptions m_captions;
+  bool m_notepadVisible = false;
+  bool m_isUnloaded = false;
+  bool m_isErrorPending = false;
+
+  std::unique_ptr<CAuctionSite> m_site;
+  std::unique_ptr<CRegularAuction> m_regularAuction;
+  std::shared_ptr<CStartStatus> m_startStatus;
+};
+
+template <typename Handler>
+void frmeBayFees::guarded(Handler&& handler) noexcept {
+  try {
+    std::forward<Handler>(handler)();
+  } catch (const std::exception& error) {
+    reportError(QString::fromUtf8(error.what()));
+  }
+}
+
+template <typename Sender, typename Signal>
+void frmeBayFees::on(Sender* sender, Signal signal, void (frmeBayFees::*handler)()) {
+  connect(sender, signal, this, [this, handler] { guarded([this, handler] { (this->*handler)(); }); });
+}

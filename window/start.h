@@ -1,0 +1,18 @@
+#pragma once
+
+#include <memory>
+
+#include "frmeBayFees.h"
+#include "surroundings.h"
+
+/// The program's start, from the first text to the calculator window.
+namespace Start {
+
+/// Chooses the language and loads its texts; false if not even English can be shown.
+using LanguageLoader = bool (*)();
+
+/// Sets up what all windows need and opens the calculator window. If the texts cannot be loaded, says so and
+/// returns nothing: the process has no window and should end.
+std::unique_ptr<frmeBayFees> Main(const Surroundings& surroundings, LanguageLoader loadLanguage);
+
+}  // namespace Start

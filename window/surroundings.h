@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+#include "keep_on_top.h"
+#include "message_box.h"
+#include "number_locale.h"
+#include "program_starter.h"
+#include "settings_store.h"
+
+/// Everything outside the program that the calculator window reaches for. The program hands in the real
+/// ones, tests hand in ones that record. All must outlive the window.
+struct Surroundings {
+  SettingsStore& settings;
+  MessageBox& messages;
+  ProgramStarter& programs;
+  KeepOnTop& stacking;
+  NumberLocale locale;    ///< how the user writes amounts
+  QString programFolder;  ///< where the program's files lie
+};

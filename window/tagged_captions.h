@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QByteArray>
+#include <QPointer>
+#include <QString>
+#include <vector>
+
+class QWidget;
+
+/// The tagged texts of a form. The form is designed with them as captions and tooltips; as a caption loses
+/// its tag when the text of a language replaces it, they are kept here, to be applied again at every change
+/// of language. Texts without a tag are not kept: they are never translated.
+class TaggedCaptions {
+ public:
+  /// Keeps the tagged captions, titles, tooltips and accessible names of `form` and all it holds. Once,
+  /// before the first `apply`.
+  void capture(QWidget& form);
+
+  /// Sets each kept property to the current language's text.
+  void apply() const;
+
+ private:
+  struct Kept {
+    QPointer<QObject> object;
+    QByteArray property;
+    QString tagged;
+    int tab = -1;  ///< for the captions of tabs, which are no property
+  };
+
+  void captureObject(QObject& object);
+
+  std::vector<Kept> m_kept;
+};

@@ -35,6 +35,7 @@ frmeBayFees::frmeBayFees(const Surroundings& surroundings) : m_surroundings(surr
   prepareLayout();
   prepareMenus();
   connectMenus();
+  connectSiteMenu();
   connectTabs();
   connectEntryFields();
   disableWhatDoesNothingYet();
@@ -44,6 +45,7 @@ frmeBayFees::~frmeBayFees() = default;
 
 void frmeBayFees::prepareLayout() {
   layout()->setSizeConstraint(QLayout::SetFixedSize);
+  m_form.centralWidget->installEventFilter(this);
   // What comes and goes with a choice keeps its place, so that nothing else moves.
   for (QWidget* control : std::initializer_list<QWidget*>{
            m_single.cboIsReserve, m_single.optMotorcycle, m_single.optOtherVehicle,
@@ -55,7 +57,7 @@ void frmeBayFees::prepareLayout() {
     control->setSizePolicy(policy);
   }
   // The pages were filled after the form around them: the notepad's controls come last.
-  const std::array<QWidget*, 6> last{m_shipping.lblPacking,  m_form.cmdNotepad,      m_form.cmdPrintNotepad,
+  const std::array<QWidget*, 6> last{m_shipping.lblPacking, m_form.cmdNotepad,      m_form.cmdPrintNotepad,
                                      m_form.cmdCopyNotepad, m_form.cmdClearNotepad, m_form.txtNotes};
   for (std::size_t at = 1; at < last.size(); ++at) setTabOrder(last[at - 1], last[at]);
 }
@@ -84,7 +86,6 @@ void frmeBayFees::connectMenus() {
 void frmeBayFees::connectTabs() { connectSingleItemTab(); }
 
 void frmeBayFees::disableWhatDoesNothingYet() {
-  for (QAction* action : m_form.mnuOptionsSite->actions()) action->setEnabled(false);
   for (QMenu* menu : {m_form.mnuHelp, m_form.mnuHelpSources}) {
     for (QAction* action : menu->actions()) action->setEnabled(action->menu() != nullptr);
   }
@@ -120,6 +121,12 @@ void frmeBayFees::Form_Load() {
 void frmeBayFees::closeEvent(QCloseEvent* event) {
   guarded([this] { Form_Unload(); });
   event->accept();
+}
+
+bool frmeBayFees::eventFilter(QObject* watched, QEvent* event) {
+  // A text somewhere has changed its size; by now the layouts in between know what they need.
+  if (event->type() == QEvent::LayoutRequest) fitSize();
+  return QMainWindow::eventFilter(watched, event);
 }
 
 void frmeBayFees::Form_Unload() {
@@ -171,10 +178,10 @@ void frmeBayFees::refreshNotepad() {
                                                           m_form.cmdCopyNotepad, m_form.cmdPrintNotepad}) {
     control->setVisible(m_notepadVisible);
   }
-  fitHeight();
+  fitSize();
 }
 
-void frmeBayFees::fitHeight() {
+void frmeBayFees::fitSize() {
   const auto pixels = [this](int twips) { return twips * logicalDpiY() / kTwipsPerInch; };
   const int height = m_notepadVisible ? kHeightWithNotepad : kHeightWithoutNotepad;
   const QSize designed(pixels(kClientWidth), pixels(height - kCaptionAndMenuHeight));

@@ -29,7 +29,7 @@ class EntryField;
 ///   frmeBayFees_lists.cpp         the items of the lists
 ///   frmeBayFees_settings.cpp      first-run defaults, restoring, storing
 ///   frmeBayFees_single_item.cpp   the Single Item tab
-///   frmeBayFees_sites.cpp         what depends on the auction site
+///   frmeBayFees_sites.cpp         the auction site: switching it, and what depends on it
 ///
 /// The way of an entry: a key passes the filter of its EntryField; the changed text must be a number or the
 /// start of one (entryChanged); when the box is left it is normalised (leave...) and the tab is recalculated:
@@ -59,6 +59,7 @@ class frmeBayFees : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   // Life cycle (frmeBayFees.cpp)
@@ -75,7 +76,7 @@ class frmeBayFees : public QMainWindow {
   void RefreshWindow();
   void refreshNotepad();
   void refreshPhotoLists();
-  void fitHeight();
+  void fitSize();
 
   // Captions (frmeBayFees_captions.cpp)
   void captureCaptions();
@@ -97,8 +98,8 @@ class frmeBayFees : public QMainWindow {
   // Settings (frmeBayFees_settings.cpp)
   void writeFirstRunDefaults();
   void restoreSettings();
+  [[nodiscard]] QString GetAppSetting(const QString& key);
   void SaveAppSetting(const QString& key, const QString& value);
-  void SaveConversionRate();
 
   // Single Item tab (frmeBayFees_single_item.cpp)
   void connectSingleItemTab();
@@ -117,9 +118,15 @@ class frmeBayFees : public QMainWindow {
   void refreshReserveList();
 
   // Sites (frmeBayFees_sites.cpp)
+  void connectSiteMenu();
+  void SelectSite(int site);
+  void showSite(int site);
+  void SaveConversionRate();
   [[nodiscard]] int currentSite() const;
   void refreshSiteFeatures();
   void SetRealEstateAvailable(bool isAvailable);
+  void ShowCurrencyLabels();
+  void HighlightShippingCountries();
 
   // Helpers of all files
   /// Runs a handler. An error in it is reported and ends there: the program goes on.

@@ -1,8 +1,16 @@
+#include <QRegularExpression>
+
 #include "frmeBayFees.h"
 
 namespace {
 
 constexpr int kFirstSite = CAuctionSite::eBayUS;
+
+/// The whole number at the start of a stored text; 0 if there is none, or none that fits.
+int leadingNumber(const QString& text) {
+  static const QRegularExpression number(QStringLiteral("^\\s*([+-]?[0-9]+)"));
+  return number.match(text).captured(1).toInt();
+}
 
 }  // namespace
 
@@ -11,29 +19,13 @@ void frmeBayFees::writeFirstRunDefaults() {
 }
 
 void frmeBayFees::restoreSettings() {
-  m_site->Site(kFirstSite);
-  m_regularAuction->Site(*m_site);
-  SetRealEstateAvailable(true);
-  RefreshWindow();
+  const QString site = GetAppSetting(QStringLiteral("Site"));
+  SelectSite(site.isEmpty() ? kFirstSite : leadingNumber(site));
   choosePriceLabel();
-  recalculateSingleItemTab();
 }
+
+QString frmeBayFees::GetAppSetting(const QString& key) { return m_surroundings.settings.read(key); }
 
 void frmeBayFees::SaveAppSetting(const QString& key, const QString& value) {
   m_surroundings.settings.write(key, value);
-}
-
-void frmeBayFees::SaveConversionRate() {
-  const QString rate = m_payment.txtConversion->text();
-  if (rate.isEmpty()) return;
-  switch (currentSite()) {
-    case CAuctionSite::eBayUK:
-      return SaveAppSetting(QStringLiteral("PayPalUKRate"), rate);
-    case CAuctionSite::eBayCanada:
-      return SaveAppSetting(QStringLiteral("PayPalCanadaRate"), rate);
-    case CAuctionSite::eBayGermany:
-      return SaveAppSetting(QStringLiteral("PayPalGermanyRate"), rate);
-    default:
-      return;  // eBay.com has nothing to convert
-  }
 }

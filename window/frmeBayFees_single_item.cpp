@@ -106,8 +106,9 @@ bool frmeBayFees::ItemSold() const {
 
 void frmeBayFees::chkDidNotSell_Click() {
   const bool didNotSell = m_single.chkDidNotSell->isChecked();
-  if (didNotSell) show(*m_single.txtPrice, withDecimalSymbol("0.00", m_surroundings.locale));
+  // Disabled first: a box that has the focus loses it then, and is normalised as if the user had left it.
   m_single.txtPrice->setEnabled(!didNotSell);
+  if (didNotSell) show(*m_single.txtPrice, withDecimalSymbol("0.00", m_surroundings.locale));
   recalculateSingleItemTab();
 }
 

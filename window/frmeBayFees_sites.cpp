@@ -1,10 +1,97 @@
+#include <QRegularExpression>
+
 #include "frmeBayFees.h"
+#include "tagged_strings.h"
+
+using Localization::GetTagString;
+
+namespace {
+
+constexpr int kNone = -1;
+
+/// What the window shows differently on one site.
+struct SiteRow {
+  int site;
+  QAction* Ui_frmeBayFees::*menuItem;
+  const char* title;
+  const char* internationalBuyer;
+  const char* rateKey;        ///< in the settings store; empty where nothing is converted
+  std::array<int, 2> inBold;  ///< the shipping headings of the site's country
+};
+
+// clang-format off
+constexpr std::array<SiteRow, kSiteCount> kSites{{
+    {CAuctionSite::eBayUS,      &Ui_frmeBayFees::mnuOptionsSiteEbay,    "Tessaloom for eBay.com<0620>",
+     "Buyer outside USA<0621>",        "",                  {0, 4}},
+    {CAuctionSite::eBayUK,      &Ui_frmeBayFees::mnuOptionsSiteUK,      "Tessaloom for eBay UK<0624>",
+     "Buyer outside UK<0625>",         "PayPalUKRate",      {2, kNone}},
+    {CAuctionSite::eBayCanada,  &Ui_frmeBayFees::mnuOptionsSiteCanada,  "Tessaloom for eBay Canada (items listed in C$)<0622>",
+     "Buyer outside Canada/USA<0623>", "PayPalCanadaRate",  {1, kNone}},
+    {CAuctionSite::eBayGermany, &Ui_frmeBayFees::mnuOptionsSiteGermany, "Tessaloom for eBay Germany<0626>",
+     "Buyer outside Germany<0627>",    "PayPalGermanyRate", {3, kNone}},
+}};
+// clang-format on
+
+const SiteRow* rowOf(int site) {
+  const auto row =
+      std::find_if(kSites.begin(), kSites.end(), [site](const SiteRow& each) { return each.site == site; });
+  return row != kSites.end() ? &*row : nullptr;
+}
+
+}  // namespace
+
+void frmeBayFees::connectSiteMenu() {
+  for (const SiteRow& row : kSites) {
+    connect(m_form.*row.menuItem, &QAction::triggered, this,
+            [this, site = row.site] { guarded([this, site] { SelectSite(site); }); });
+  }
+}
+
+// The outgoing site's rate is stored before anything changes, and its real-estate choice is dropped with
+// its own tables.
+void frmeBayFees::SelectSite(int site) {
+  for (const SiteRow& row : kSites) (m_form.*row.menuItem)->setChecked(false);
+  SaveConversionRate();
+  m_single.chkRealEstate->setChecked(false);
+  showSite(site);
+  m_payment.lblTreuhandservice->setVisible(site == CAuctionSite::eBayGermany);
+  m_regularAuction->Site(*m_site);
+  SetRealEstateAvailable(true);
+  ShowCurrencyLabels();
+  RefreshWindow();
+  guarded([this] { recalculateSingleItemTab(); });
+  HighlightShippingCountries();
+}
+
+// A site that does not exist changes nothing here: the schedule keeps the one it has.
+void frmeBayFees::showSite(int site) {
+  const SiteRow* row = rowOf(site);
+  if (row == nullptr) return;
+  const QString rateKey = QString::fromLatin1(row->rateKey);
+  m_site->Site(site);
+  (m_form.*row->menuItem)->setChecked(true);
+  setWindowTitle(GetTagString(QString::fromLatin1(row->title)));
+  for (QWidget* control :
+       std::initializer_list<QWidget*>{m_payment.lblOneDollarEquals, m_payment.txtConversion,
+                                       m_payment.lblCurrency14, m_payment.lblCheckRates}) {
+    control->setVisible(!rateKey.isEmpty());
+  }
+  m_payment.chkInternationalPayPal->setText(GetTagString(QString::fromLatin1(row->internationalBuyer)));
+  if (!rateKey.isEmpty()) m_payment.txtConversion->setText(GetAppSetting(rateKey));
+}
+
+void frmeBayFees::SaveConversionRate() {
+  const SiteRow* row = rowOf(currentSite());
+  const QString rate = m_payment.txtConversion->text();
+  if (row == nullptr || *row->rateKey == '\0' || rate.isEmpty()) return;
+  SaveAppSetting(QString::fromLatin1(row->rateKey), rate);
+}
 
 int frmeBayFees::currentSite() const { return m_site ? m_site->Site() : 0; }
 
 void frmeBayFees::refreshSiteFeatures() {
   const int site = currentSite();
-  if (site < CAuctionSite::eBayUS || site > CAuctionSite::eBayGermany) return;
+  if (rowOf(site) == nullptr) return;
   const bool isUS = site == CAuctionSite::eBayUS;
   for (QCheckBox* box : {m_single.chkGiftIcon, m_single.chkListingDesigner,
                          m_multiple.chkDutchListingDesigner, m_multiple.chkDutchGreatGift}) {
@@ -21,4 +108,26 @@ void frmeBayFees::refreshSiteFeatures() {
 void frmeBayFees::SetRealEstateAvailable(bool isAvailable) {
   m_single.chkRealEstate->setEnabled(isAvailable && currentSite() != CAuctionSite::eBayGermany);
   if (!isAvailable) m_single.chkRealEstate->setChecked(false);
+}
+
+void frmeBayFees::ShowCurrencyLabels() {
+  const std::string_view currency = m_site->CurrencyString();
+  const QString text = QString::fromUtf8(currency.data(), static_cast<qsizetype>(currency.size()));
+  static const QRegularExpression name(QStringLiteral("^lblCurrency[0-9]+$"));
+  for (QLabel* label : findChildren<QLabel*>(name)) label->setText(text);
+}
+
+void frmeBayFees::HighlightShippingCountries() {
+  const std::array<QLabel*, 5> headings{m_shipping.lblCountry_0, m_shipping.lblCountry_1,
+                                        m_shipping.lblCountry_2, m_shipping.lblCountry_3,
+                                        m_shipping.lblCountry_4};
+  const SiteRow* row = rowOf(currentSite());
+  for (int index = 0; index < static_cast<int>(headings.size()); ++index) {
+    const bool isBold =
+        row != nullptr && std::find(row->inBold.begin(), row->inBold.end(), index) != row->inBold.end();
+    QLabel& heading = *headings[static_cast<std::size_t>(index)];
+    QFont font = heading.font();
+    font.setBold(isBold);
+    heading.setFont(font);
+  }
 }

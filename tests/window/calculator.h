@@ -1,0 +1,106 @@
+#pragma once
+
+#include <memory>
+#include <QMap>
+#include <QPair>
+#include <QStringList>
+
+#include "frmeBayFees.h"
+#include "surroundings.h"
+
+/// Stand-ins for everything outside the program, which record what was asked of them.
+struct MemorySettings : SettingsStore {
+  QMap<QString, QString> values;
+  QStringList calls;  ///< "read Site", "write Site=1", in order
+
+  QString read(const QString& key) override {
+    calls << QStringLiteral("read ") + key;
+    return values.value(key);
+  }
+  void write(const QString& key, const QString& value) override {
+    calls << QStringLiteral("write ") + key + u'=' + value;
+    values[key] = value;
+  }
+};
+
+struct RecordingMessages : MessageBox {
+  QList<QPair<QString, QString>> shown;  ///< title, text
+
+  void showCritical(QWidget* /*parent*/, const QString& title, const QString& text) override {
+    shown.append({title, text});
+  }
+};
+
+struct RecordingStarter : ProgramStarter {
+  QStringList started;
+
+  bool start(const QString& path) override {
+    started << path;
+    return true;
+  }
+};
+
+struct RecordingStacking : KeepOnTop {
+  QList<bool> requests;
+
+  void request(QWidget& /*window*/, bool onTop) override { requests << onTop; }
+};
+
+inline const NumberLocale kPointLocale{".", ",", "$"};
+inline const NumberLocale kGermanLocale{",", ".", "€"};
+inline const NumberLocale kSwissLocale{".", "’", "CHF"};
+inline const NumberLocale kFrenchLocale{",", "\u202F", "€"};
+
+/// The real calculator window with recording surroundings, worked by verbs. A verb that names a control
+/// which is not there throws, with the name.
+class Calculator {
+ public:
+  explicit Calculator(NumberLocale locale = kPointLocale, int site = 1);
+  ~Calculator();
+
+  /// The window as it stands before it is loaded; `load` shows it.
+  frmeBayFees& window() { return *m_window; }
+  void load();
+
+  /// Types over what the box holds, by real keys, and leaves it with Tab.
+  void enter(const char* box, const QString& text);
+  /// The same without leaving.
+  void type(const char* box, const QString& text);
+  /// Sets the text as the program itself would.
+  void set(const char* box, const QString& text);
+  void leave(const char* box);
+  void tick(const char* box, bool ticked = true);
+  void untick(const char* box) { tick(box, false); }
+  void choose(const char* list, int index);
+  void select(const char* option);
+  void click(const char* button);
+  void trigger(const char* menuItem);
+  void selectSite(int site);
+
+  [[nodiscard]] QString shown(const char* control) const;
+  /// "listing fee, extras, final value fee, total" of the single-item tab.
+  [[nodiscard]] QStringList singleItemFees() const;
+
+  template <typename T>
+  T& find(const char* name) const;
+
+  MemorySettings settings;
+  RecordingMessages messages;
+  RecordingStarter starter;
+  RecordingStacking stacking;
+
+ private:
+  std::unique_ptr<frmeBayFees> m_window;
+  int m_site;
+};
+
+/// Lets queued calls run.
+void letItSettle();
+
+template <typename T>
+T& Calculator::find(const char* name) const {
+  auto* object = m_window->findChild<T*>(QString::fromLatin1(name));
+  if (object == nullptr)
+    throw std::runtime_error(std::string("there is no control of that kind named ") + name);
+  return *object;
+}

@@ -92,10 +92,12 @@ Currency toCurrency(std::string_view text, const NumberLocale& locale) {
 
 float storedAsSingle(double value) {
   const auto stored = static_cast<float>(value);
-  if (!std::isfinite(stored)) {
-    throw OverflowError(std::isfinite(value) ? plainText(value, NumberLocale{}) : std::string("infinity"));
-  }
+  if (!std::isfinite(stored)) throw OverflowError(describe(value));
   return stored;
+}
+
+std::string describe(double value) {
+  return std::isfinite(value) ? plainText(value, NumberLocale{}) : std::string("infinity");
 }
 
 std::string plainText(float value, const NumberLocale& locale) {

@@ -10,7 +10,8 @@
 /// \file
 /// Amounts travel through the program as texts; here are all conversions between them and numbers. Every
 /// text is UTF-8 and every function takes the user's signs as a parameter. The readers accept exactly what
-/// `isNumeric` accepts, and whatever the writers produce.
+/// `isNumeric` accepts, and whatever the writers produce (but for the last few doubles below the largest,
+/// whose 15 digits are rounded beyond it).
 ///
 /// The readers throw ConversionError for what is not a number, OverflowError for what is too large.
 
@@ -32,8 +33,12 @@ Currency toCurrency(std::string_view text, const NumberLocale& locale);
 /// A product or sum, made in double, as it is stored: in binary32. Throws OverflowError if it does not fit.
 float storedAsSingle(double value);
 
+/// A number for the text of an error: in point-decimal plain form, "infinity" for what is not finite.
+std::string describe(double value);
+
 /// Plain form: at most 7 (float) or 15 (double) significant digits, no fixed decimals, a leading blank for
 /// what is not negative, an exponent from 1E7 (float) or 1E15 (double) on: " 0.35", "-1.5", " 1.234568E+08".
+/// `value` must be finite, here and in twoDecimals.
 std::string plainText(float value, const NumberLocale& locale);
 std::string plainText(double value, const NumberLocale& locale);
 std::string plainText(Currency value, const NumberLocale& locale);

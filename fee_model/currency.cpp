@@ -16,7 +16,7 @@ Currency Currency::fromNumber(double value) {
   // Extended precision keeps the product exact enough to see a half; the default rounding is half to even.
   const long double units = std::rint(static_cast<long double>(value) * kUnitsPerOne);
   constexpr long double limit = 9223372036854775808.0L;  // two to the power of 63
-  if (!(units >= -limit && units < limit)) throw OverflowError(plainText(value, NumberLocale{}));
+  if (!(units >= -limit && units < limit)) throw OverflowError(describe(value));
   return Currency(static_cast<std::int64_t>(units));
 }
 

@@ -210,6 +210,21 @@ Decimal printedDigits(double value, int count) {
   return number;
 }
 
+/// The common case of `nearestDouble`: up to 15 digits and a power of ten up to 22 are both exact as double,
+/// so that one multiplication or division rounds only once.
+std::optional<double> exactlyScaled(const Decimal& number, std::int64_t exponent) {
+  constexpr std::array<double, 23> powersOfTen{1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                               1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                               1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+  constexpr std::size_t exactDigits = 15;
+  const auto power = static_cast<std::size_t>(exponent < 0 ? -exponent : exponent);
+  if (number.digits.size() > exactDigits || power >= powersOfTen.size()) return std::nullopt;
+  std::int64_t digits = 0;
+  std::from_chars(number.digits.data(), number.digits.data() + number.digits.size(), digits);
+  const auto whole = static_cast<double>(number.isNegative ? -digits : digits);
+  return exponent < 0 ? whole / powersOfTen[power] : whole * powersOfTen[power];
+}
+
 }  // namespace
 
 std::optional<Decimal> parseDecimal(std::string_view text, const NumberLocale& locale) {
@@ -218,7 +233,7 @@ std::optional<Decimal> parseDecimal(std::string_view text, const NumberLocale& l
 
 Decimal significantDigits(double value, int count) {
   if (value == 0.0) return {};
-  constexpr int guardDigits = 12;
+  constexpr int guardDigits = 3;
   constexpr int allDigits = 767;
   const auto kept = static_cast<std::size_t>(count);
   Decimal number = printedDigits(value, count + guardDigits);
@@ -280,6 +295,7 @@ std::optional<double> nearestDouble(const Decimal& number) {
   if (number.isZero() || number.point < belowSmallest) return 0.0;
   if (number.point > beyondLargest) return std::nullopt;
   const std::int64_t exponent = number.point - static_cast<std::int64_t>(number.digits.size());
+  if (const auto exact = exactlyScaled(number, exponent)) return exact;
   std::array<char, 24> exponentText;
   const auto written =
       std::to_chars(exponentText.data(), exponentText.data() + exponentText.size(), exponent);

@@ -57,7 +57,8 @@ bool mayStand(std::string_view text, const NumberLocale& locale) {
 
 bool isNegative(std::string_view text, const NumberLocale& locale) {
   const auto number = parseDecimal(text, locale);
-  return number && number->isNegative;
+  // Beyond the range of a double it is below zero all the same; too small for one it is zero.
+  return number && number->isNegative && nearestDouble(*number) != 0.0;
 }
 
 bool isBelowGermanMinimum(std::string_view text, const NumberLocale& locale) {

@@ -153,5 +153,5 @@ std::string CRegularAuction::ExtraFeaturesFee(const ListingFeatures& chosen) con
   if (chosen.IsSubtitle) fees.addDoubledForTwoCategories(site.SubtitleFee());
   fees.addDoubledForTwoCategories(site.PhotosFee(chosen.HasExtraPhotos, chosen.PhotoChoice,
                                                  chosen.IsSupersize, chosen.IsSlideshow, chosen.IsVehicle));
-  return twoDecimals(std::string_view(plainText(fees.total(), m_locale)), m_locale);
+  return twoDecimals(fees.total(), m_locale);
 }

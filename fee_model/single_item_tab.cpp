@@ -90,9 +90,8 @@ class SingleItemRecalculation {
   }
 
   void ExtraFeatures() {
-    const std::string extras = m_calculator->ExtraFeaturesFee(chosenFeatures());
-    m_boxes.txtExtras = twoDecimals(std::string_view(extras), m_locale);
-    m_boxes.txtFees = twoDecimals(number(m_boxes.txtFees) + number(extras), m_locale);
+    m_boxes.txtExtras = m_calculator->ExtraFeaturesFee(chosenFeatures());
+    m_boxes.txtFees = twoDecimals(number(m_boxes.txtFees) + number(m_boxes.txtExtras), m_locale);
   }
 
   void restoreClosingPrice() {

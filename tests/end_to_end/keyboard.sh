@@ -1,0 +1,131 @@
+# shellcheck shell=bash
+# Sourced by the end-to-end session: the verbs of a user who has a keyboard and eyes, but no mouse. Each fails
+# with the step at which it happened.
+
+program_pid= # of the program under test
+window=      # its id on the display
+
+# The controls of the Single Item tab in the order of the Tab key, and the notepad's after them.
+TAB_ORDER=(
+  txtStartingPrice txtPrice chkDidNotSell cboSingleItemType cboIsReserve chkMotors chkVehicle optMotorcycle
+  chkRealEstate chkSubTitleSingleItem chkListingDesigner chkScheduled chkSlideshow chkSupersizePhotos
+  chkExtraPhotos cboExtraPhotos chkBIN chkTenDayAuction chkTwoCategories chkFeaturedCategory chkFeatured
+  chkGallery chkGalleryFeatured chkHighlighted chkBold chkGiftIcon txtInsertionFee txtExtras txtFVF txtFees
+  cmdCalculate cmdClearAll cmdNotepad txtNotes)
+
+# What the Tab key passes by because it is disabled or hidden just now.
+declare -A UNREACHABLE=([chkVehicle]=1 [optMotorcycle]=1 [cboExtraPhotos]=1 [chkGalleryFeatured]=1 [txtNotes]=1)
+
+STEP="start"
+UNREAD="nothing was copied"
+
+step() {
+  STEP=$1
+  echo "- $STEP"
+}
+
+fail() {
+  echo "FAILED at \"$STEP\": $1" >&2
+  return 1
+}
+
+is_running() { kill -0 "$program_pid" 2> /dev/null; }
+
+press() { xdotool key --delay 2 "$@"; }
+
+enter() { xdotool type --delay 2 "$1"; }
+
+# go_to CONTROL: by the first label's mnemonic and the Tab key.
+go_to() {
+  local control tabs=()
+  for control in "${TAB_ORDER[@]}"; do
+    if [[ $control == "$1" ]]; then
+      [[ -z ${UNREACHABLE[$1]-} ]] || fail "$1 cannot be reached now" || return
+      press alt+e "${tabs[@]}"
+      return
+    fi
+    [[ -n ${UNREACHABLE[$control]-} ]] || tabs+=(Tab)
+  done
+  fail "there is no control $1"
+}
+
+reachable() { unset "UNREACHABLE[$1]"; }
+unreachable() { UNREACHABLE[$1]=1; }
+
+# fill_in BOX TEXT: the box selects its text when it is entered, so that typing replaces it.
+fill_in() {
+  go_to "$1"
+  enter "$2"
+}
+
+# switch BOX: ticks a check box that is not ticked, and the other way round.
+switch() {
+  go_to "$1"
+  press space
+}
+
+push() { switch "$1"; }
+
+clipboard() { timeout 10 xclip -selection clipboard -out 2> /dev/null; }
+
+is_copied() {
+  local text
+  text=$(clipboard) && [[ $text != "$UNREAD" ]]
+}
+
+forget_clipboard() { printf '%s' "$UNREAD" | xclip -selection clipboard -in > /dev/null; }
+
+# expect CONTROL TEXT: goes there and copies what stands in it.
+expect() {
+  go_to "$1"
+  forget_clipboard
+  press ctrl+a ctrl+c
+  until_true 20 is_copied || fail "$1 should show \"$2\"; nothing could be copied from it" || return
+  [[ $(clipboard) == "$2" ]] || fail "$1 should show \"$2\" but shows \"$(clipboard)\""
+}
+
+# expect_empty CONTROL
+expect_empty() {
+  go_to "$1"
+  nothing_in "$1"
+}
+
+# nothing_in CONTROL: where the focus is, nothing can be copied, even after all keys have been handled.
+nothing_in() {
+  forget_clipboard
+  press ctrl+a ctrl+c
+  all_keys_handled
+  ! is_copied || fail "$1 should be empty but shows \"$(clipboard)\""
+}
+
+expect_figures() {
+  expect txtInsertionFee "$1"
+  expect txtExtras "$2"
+  if [[ -n $3 ]]; then expect txtFVF "$3"; else expect_empty txtFVF; fi
+  expect txtFees "$4"
+}
+
+# all_keys_handled: keys are handled in order, so the menu that the last one opens shows that all were.
+all_keys_handled() {
+  press alt+f
+  until_true 20 is_menu_open || fail "Alt+F opened no menu" || return
+  press Escape
+  until_true 20 is_menu_closed || fail "Escape did not close the menu"
+}
+
+visible_windows() { xdotool search --onlyvisible --class '^Tessaloom$' 2> /dev/null | wc -l; }
+is_menu_open() { (($(visible_windows) == 2)); }
+is_menu_closed() { (($(visible_windows) == 1)); }
+
+is_active() { [[ $(xdotool getactivewindow 2> /dev/null) == "$window" ]]; }
+
+is_on_top() { xprop -id "$window" _NET_WM_STATE | grep -q _NET_WM_STATE_ABOVE; }
+is_not_on_top() { ! is_on_top; }
+
+window_height() { xdotool getwindowgeometry --shell "$window" | sed -n 's/^HEIGHT=//p'; }
+is_higher_than() { (($(window_height) > $1)); }
+is_as_high_as() { (($(window_height) == $1)); }
+
+is_stored() { grep -qx "$1" "$XDG_CONFIG_HOME/Ostrevane/Tessaloom.conf" 2> /dev/null; }
+
+has_ended() { ! is_running; }

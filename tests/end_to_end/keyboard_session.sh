@@ -1,0 +1,178 @@
+#!/usr/bin/env bash
+# keyboard_session.sh PROGRAM FOLDER: a seller's session with the built program, by keyboard alone, on a display
+# and with settings of its own. Keeps pictures in FOLDER. Figures are worked out from the schedule of eBay.com.
+set -euo pipefail
+here=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
+# shellcheck source=scripts/virtual_display.sh
+source "$here/../../scripts/virtual_display.sh"
+# shellcheck source=tests/end_to_end/keyboard.sh
+source "$here/keyboard.sh"
+
+program=$1
+pictures=$2
+for tool in Xvfb openbox xdotool xprop xclip import; do
+  command -v "$tool" > /dev/null || fail "the test needs $tool"
+done
+
+folder=$(mktemp -d)
+clean_up() {
+  local status=$?
+  if ((status != 0)); then
+    [[ -z $window ]] || save_screenshot "$window" "$pictures/failure.png" || true
+    cat "$folder/program.log" >&2 || true
+  fi
+  [[ -z $program_pid ]] || kill "$program_pid" 2> /dev/null || true
+  stop_virtual_display
+  rm -rf "$folder"
+  exit "$status"
+}
+trap clean_up EXIT
+mkdir -p "$pictures"
+rm -f "$pictures"/{session,failure}.png
+
+step "start on a machine that has no settings yet"
+start_virtual_display "$folder"
+"$program" > "$folder/program.log" 2>&1 &
+program_pid=$!
+window=$(visible_window Tessaloom) || true
+[[ -n $window ]] || fail "no window appeared"
+until_true 20 is_active || fail "the window did not become active"
+[[ $(xdotool getwindowname "$window") == "Tessaloom - Calculate Your eBay Auction Fees" ]] ||
+  fail "the window's title is \"$(xdotool getwindowname "$window")\""
+until_true 20 is_stored Site=1 || fail "the first start stored no site"
+
+step "an auction from 9.99 that closes at 25.00"
+fill_in txtStartingPrice 9.99
+fill_in txtPrice 25.00
+# 0.35 up to an opening bid of 9.99; 5.25 % of 25.00 is 1.3125
+expect_figures 0.35 0.00 1.31 1.66
+
+step "Gallery"
+switch chkGallery
+reachable chkGalleryFeatured
+expect_figures 0.35 0.25 1.31 1.91
+save_screenshot "$window" "$pictures/session.png" || fail "no picture could be taken"
+
+step "Bold in two categories"
+switch chkBold
+switch chkTwoCategories
+# listing fee and features twice: 2 x 0.35, 2 x (0.25 + 1.00)
+expect_figures 0.70 2.50 1.31 4.51
+switch chkTwoCategories
+
+step "Gallery Featured takes the place of Gallery"
+switch chkGalleryFeatured
+expect_figures 0.35 20.95 1.31 22.61
+switch chkGallery # takes Gallery Featured with it
+unreachable chkGalleryFeatured
+expect_figures 0.35 1.00 1.31 2.66
+
+step "three extra pictures at 0.15"
+switch chkExtraPhotos
+reachable cboExtraPhotos
+go_to cboExtraPhotos
+press Down Down
+expect_figures 0.35 1.45 1.31 3.11
+
+step "a vehicle, and its kind"
+switch chkMotors
+reachable chkVehicle
+unreachable chkRealEstate
+switch chkVehicle
+reachable optMotorcycle # the two kinds are one stop
+# listing and selling a car cost 40.00 each, bold 4.00 on it
+expect_figures 40.00 4.45 40.00 84.45
+switch optMotorcycle
+# a motorcycle: 30.00 and 25.00
+expect_figures 30.00 4.45 25.00 59.45
+
+step "Clear All"
+push cmdClearAll
+unreachable chkVehicle
+unreachable optMotorcycle # the two kinds are one stop
+unreachable cboExtraPhotos
+reachable chkRealEstate
+# Backwards from the button: an amount box that is left on the way would recalculate.
+press shift+Tab
+for box in txtFees txtFVF txtExtras txtInsertionFee; do
+  press shift+Tab
+  nothing_in "$box"
+done
+expect_empty txtStartingPrice
+
+step "a reserve of 150.00 that a closing bid of 50.00 does not meet"
+go_to cboIsReserve
+press Down
+fill_in txtPrice 50.00
+fill_in txtStartingPrice 150.00
+# 2.40 up to 199.99, and 2.00 for a reserve of 50.00 or more; not sold, so no final value fee
+expect_figures 4.40 0.00 "" 4.40
+expect txtPrice 50.00
+
+step "a closing bid that meets the reserve"
+fill_in txtPrice 185.00
+# 25.00 x 5.25 % + 160.00 x 2.75 % = 5.7125, and the reserve costs nothing
+expect_figures 2.40 0.00 5.71 8.11
+
+step "Item Did Not Sell"
+switch chkDidNotSell
+unreachable txtPrice
+expect_figures 4.40 0.00 "" 4.40
+switch chkDidNotSell
+reachable txtPrice
+expect txtPrice 0.00
+
+step "a closing bid below the opening bid"
+go_to cboIsReserve
+press Up
+fill_in txtPrice 5.00
+fill_in txtStartingPrice 10.00
+# without a reserve the item cannot sell below its opening bid; 5.25 % of 10.00, in single precision, is 0.525
+expect txtPrice 10.00
+expect_figures 0.60 0.00 0.53 1.13
+
+step "the Calculate button, and letters in a box for amounts"
+fill_in txtPrice 2x5
+push cmdCalculate
+expect txtPrice 25.00
+expect txtFVF 1.31
+
+step "show the notepad and write into it"
+height=$(window_height)
+push cmdNotepad
+until_true 20 is_higher_than "$height" || fail "the window did not grow"
+reachable txtNotes
+go_to txtNotes
+enter "Sold to Ann"
+expect txtNotes "Sold to Ann"
+
+step "hide the notepad"
+push cmdNotepad
+unreachable txtNotes
+until_true 20 is_as_high_as "$height" || fail "the window did not shrink back"
+
+step "Options > Keep on Top, on and off"
+is_not_on_top || fail "the window was on top before"
+press alt+o
+until_true 20 is_menu_open || fail "Alt+O opened no menu"
+press k
+until_true 20 is_on_top || fail "the window manager was not asked to keep the window on top"
+until_true 20 is_active || fail "the window is no longer active"
+press alt+o
+until_true 20 is_menu_open || fail "Alt+O opened no menu"
+press k
+until_true 20 is_not_on_top || fail "the window is still on top"
+expect txtFees 1.91
+
+step "File > Exit stores the site"
+sed -i 's/^Site=1$/Site=3/' "$XDG_CONFIG_HOME/Ostrevane/Tessaloom.conf" # as another window might have done
+is_stored Site=3 || fail "the settings store could not be prepared"
+press ctrl+q
+until_true 30 has_ended || fail "the program did not end"
+status=0
+wait "$program_pid" || status=$?
+program_pid=
+((status == 0)) || fail "the program ended with status $status"
+is_stored Site=1 || fail "Site=1 does not stand in the settings store"
+
+step "done"

@@ -75,7 +75,8 @@ float CAuctionSite::ReserveSecondTier(float ReservePrice, bool IsVehicle, bool I
 }
 
 float CAuctionSite::ReserveThirdTier(float ReservePrice, bool IsVehicle, bool /*IsReducedReserve*/) const {
-  // The flat amounts that once stood for US vehicles and for the UK are not charged: only a share is.
+  // Only a share is charged here, no flat amount: US vehicles and the whole UK, whose share is 0, pay
+  // nothing.
   if (IsVehicle && m_site == eBayUS) return 0.0F;
   const float fee = storedAsSingle(static_cast<double>(ReservePrice) * share(Figure::ReserveThirdTierShare));
   return std::min(fee, amount(Figure::ReserveThirdTierCap));

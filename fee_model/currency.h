@@ -23,6 +23,7 @@ class Currency {
   /// Throws OverflowError if the sum is out of range.
   friend Currency operator+(Currency left, Currency right);
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): the check misreads every defaulted comparison
   friend constexpr auto operator<=>(Currency, Currency) = default;
 
  private:

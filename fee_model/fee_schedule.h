@@ -103,8 +103,8 @@ struct FeeCell {
   double value = 0.0;           ///< in the site's currency, or a fraction for a rate or share
   bool followsTheRate = false;  ///< kept in US dollars, converted with the user's rate when it is read
 
-  // NOLINTNEXTLINE(google-explicit-constructor): a table of plain numbers is what one compares with a
-  // schedule.
+  // Implicit, because a table of plain numbers is what one compares with a printed schedule.
+  // NOLINTNEXTLINE(google-explicit-constructor)
   constexpr FeeCell(double figure) : value(figure) {}
   constexpr FeeCell(double figure, bool isInDollars) : value(figure), followsTheRate(isInDollars) {}
 };

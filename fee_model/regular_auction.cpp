@@ -3,6 +3,7 @@
 #include <array>
 
 #include "amount_text.h"
+#include "fee_total.h"
 
 namespace {
 
@@ -16,23 +17,6 @@ struct Tier {
 float priceOrZero(std::string_view text, const NumberLocale& locale) {
   return text.empty() ? 0.0F : toSingle(text, locale);
 }
-
-/// A sum of fees, stored in single precision after each addition: the order of additions shows in the cents.
-class FeeTotal {
- public:
-  explicit FeeTotal(bool isTwoCategories) : m_multiplier(isTwoCategories ? 2.0 : 1.0) {}
-
-  void addDoubledForTwoCategories(float fee) { store(static_cast<double>(fee) * m_multiplier); }
-  void add(float fee) { store(static_cast<double>(fee)); }
-
-  [[nodiscard]] float total() const { return m_total; }
-
- private:
-  void store(double addend) { m_total = storedAsSingle(static_cast<double>(m_total) + addend); }
-
-  double m_multiplier;
-  float m_total = 0.0F;
-};
 
 }  // namespace
 

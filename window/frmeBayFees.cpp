@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QFontDatabase>
 
 #include "tagged_strings.h"
 
@@ -24,9 +25,17 @@ constexpr QLatin1StringView kProgramFile("Tessaloom.exe");
 constexpr QLatin1StringView kProgramFile("Tessaloom");
 #endif
 
+/// Searching for a family that is not installed costs start-up time and ends with the desktop's font anyway.
+void useFontIfInstalled(QWidget& widget, const QString& family) {
+  if (!QFontDatabase::hasFamily(family)) return;
+  QFont font = widget.font();
+  font.setFamily(family);
+  widget.setFont(font);
+}
+
 }  // namespace
 
-frmeBayFees::frmeBayFees(const Surroundings& surroundings) : m_surroundings(surroundings) {
+frmeBayFees::frmeBayFees(Surroundings surroundings) : m_surroundings(std::move(surroundings)) {
   m_form.setupUi(this);
   m_single.setupUi(m_form.tabSingleItem);
   m_multiple.setupUi(m_form.tabMultipleItems);
@@ -46,6 +55,8 @@ frmeBayFees::~frmeBayFees() = default;
 void frmeBayFees::prepareLayout() {
   layout()->setSizeConstraint(QLayout::SetFixedSize);
   m_form.centralWidget->installEventFilter(this);
+  useFontIfInstalled(*m_form.centralWidget, QStringLiteral("Tahoma"));
+  useFontIfInstalled(*m_form.txtNotes, QStringLiteral("Verdana"));
   // What comes and goes with a choice keeps its place, so that nothing else moves.
   for (QWidget* control : std::initializer_list<QWidget*>{
            m_single.cboIsReserve, m_single.optMotorcycle, m_single.optOtherVehicle,
@@ -83,7 +94,11 @@ void frmeBayFees::connectMenus() {
   on(m_form.cmdNotepad, &QPushButton::clicked, &frmeBayFees::cmdNotepad_Click);
 }
 
-void frmeBayFees::connectTabs() { connectSingleItemTab(); }
+void frmeBayFees::connectTabs() {
+  connectSingleItemTab();
+  connectMultipleItemsTab();
+  connectPaymentTab();
+}
 
 void frmeBayFees::disableWhatDoesNothingYet() {
   for (QMenu* menu : {m_form.mnuHelp, m_form.mnuHelpSources}) {
@@ -91,10 +106,8 @@ void frmeBayFees::disableWhatDoesNothingYet() {
   }
   for (QAction* action : {m_form.mnuFilePrint, m_form.mnuOptionsSaveSettings}) action->setEnabled(false);
   for (QPushButton* button :
-       {m_single.cmdAddRegularToNotes, m_multiple.cmdDutchCalculate, m_multiple.cmdDutchClearAll,
-        m_multiple.cmdAddDutchToNotes, m_payment.cmdCalculatePaymentFees, m_payment.cmdClearPaymentFees,
-        m_payment.cmdAddPaymentsToNotes, m_form.cmdPrintNotepad, m_form.cmdCopyNotepad,
-        m_form.cmdClearNotepad}) {
+       {m_single.cmdAddRegularToNotes, m_multiple.cmdAddDutchToNotes, m_payment.cmdAddPaymentsToNotes,
+        m_form.cmdPrintNotepad, m_form.cmdCopyNotepad, m_form.cmdClearNotepad}) {
     button->setEnabled(false);
   }
 }
@@ -109,6 +122,8 @@ void frmeBayFees::Form_Load() {
     m_single.cboRealEstateType->setCurrentIndex(0);
     m_site = std::make_unique<CAuctionSite>();
     m_regularAuction = std::make_unique<CRegularAuction>(m_surroundings.locale);
+    m_dutchAuction = std::make_unique<CDutchAuction>(m_surroundings.locale);
+    m_paymentService = std::make_unique<CPaymentService>(m_surroundings.locale);
     if (m_startStatus && m_startStatus->isFirstRun()) writeFirstRunDefaults();
     buildLanguageMenu();
     captureCaptions();  // before any caption is replaced by its text in the current language
@@ -136,7 +151,9 @@ void frmeBayFees::Form_Unload() {
   SaveAppSetting(QStringLiteral("Site"), QString::number(currentSite()));
   SaveConversionRate();
   m_site.reset();
+  m_dutchAuction.reset();
   m_regularAuction.reset();
+  m_paymentService.reset();
   m_startStatus.reset();
 }
 
@@ -212,6 +229,14 @@ void frmeBayFees::reportError(const QString& description) {
                                          introduction + QStringLiteral("\n\n") + description);
   };
   QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+}
+
+void frmeBayFees::onChosen(std::initializer_list<QRadioButton*> options, void (frmeBayFees::*handler)()) {
+  for (QRadioButton* option : options) {
+    connect(option, &QRadioButton::toggled, this, [this, handler](bool isChosen) {
+      if (isChosen) guarded([this, handler] { (this->*handler)(); });
+    });
+  }
 }
 
 void frmeBayFees::show(QLineEdit& box, const std::string& text) {

@@ -6,6 +6,10 @@
 #include <QMainWindow>
 #include <utility>
 
+#include "dutch_auction.h"
+#include "multiple_items_tab.h"
+#include "payment_service.h"
+#include "payment_tab.h"
 #include "regular_auction.h"
 #include "single_item_tab.h"
 #include "start_status.h"
@@ -20,16 +24,19 @@
 class EntryField;
 
 /// The calculator window. It gathers entries, shows figures and keeps the controls consistent; what a tab
-/// computes is the fee model's (single_item_tab.h).
+/// computes is the fee model's (single_item_tab.h,
+/// multiple_items_tab.h, payment_tab.h).
 ///
 /// Which file holds what:
-///   frmeBayFees.cpp               construction, loading, unloading, menus File and Options, the notepad's
-///   view frmeBayFees_captions.cpp      texts of the current language, price label
-///   frmeBayFees_entry_fields.cpp  what happens when an entry box changes or is left
-///   frmeBayFees_lists.cpp         the items of the lists
-///   frmeBayFees_settings.cpp      first-run defaults, restoring, storing
-///   frmeBayFees_single_item.cpp   the Single Item tab
-///   frmeBayFees_sites.cpp         the auction site: switching it, and what depends on it
+///   frmeBayFees.cpp                 loading, unloading, menus File and Options, notepad view, size
+///   frmeBayFees_captions.cpp        texts of the current language, price label
+///   frmeBayFees_entry_fields.cpp    what happens when an entry box changes or is left
+///   frmeBayFees_lists.cpp           the items of the lists
+///   frmeBayFees_multiple_items.cpp  the Multiple Items tab
+///   frmeBayFees_payment.cpp         the Payment Services tab
+///   frmeBayFees_settings.cpp        first-run defaults, restoring, storing
+///   frmeBayFees_single_item.cpp     the Single Item tab
+///   frmeBayFees_sites.cpp           the auction site: switching it, what depends on it
 ///
 /// The way of an entry: a key passes the filter of its EntryField; the changed text must be a number or the
 /// start of one (entryChanged); when the box is left it is normalised (leave...) and the tab is recalculated:
@@ -41,7 +48,7 @@ class frmeBayFees : public QMainWindow {
   Q_OBJECT
 
  public:
-  explicit frmeBayFees(const Surroundings& surroundings);
+  explicit frmeBayFees(Surroundings surroundings);
   ~frmeBayFees() override;
 
   /// Takes over what the start found out. Once, before Form_Load.
@@ -56,6 +63,10 @@ class frmeBayFees : public QMainWindow {
   [[nodiscard]] bool ItemSold() const;
   /// The place for a rule that would make listing fees follow the Motors choice. There is none.
   void UpdateListingFees() {}
+  /// Recalculates the Payment Services tab, if there is an amount.
+  void CalculatePaymentFees();
+  /// Writes the fee of the amount as it stands, unformatted, into its box.
+  void CalculatePayPalFee();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -89,8 +100,15 @@ class frmeBayFees : public QMainWindow {
   void connectEntryFields();
   void entryChanged(const EntryRow& row);
   void raiseToGermanMinimum();
+  [[nodiscard]] bool isNumber(const QLineEdit& box) const;
+  /// The number in a box; 0 for what is none.
+  [[nodiscard]] double valueOf(const QLineEdit& box) const;
   void leaveStartingPrice();
   void leavePrice();
+  void leaveDutchOpeningPrice();
+  void leaveDutchFinalPrice();
+  void leaveDutchItemsOffered();
+  void leavePaymentAmount();
 
   // Lists (frmeBayFees_lists.cpp)
   void fillLists();
@@ -117,6 +135,24 @@ class frmeBayFees : public QMainWindow {
   void refreshRealEstateControls();
   void refreshReserveList();
 
+  // Multiple Items tab (frmeBayFees_multiple_items.cpp)
+  void connectMultipleItemsTab();
+  void DutchCalculate();
+  [[nodiscard]] MultipleItemsChoices multipleItemsChoices() const;
+  [[nodiscard]] MultipleItemsBoxes multipleItemsBoxes() const;
+  void showMultipleItemsBoxes(const MultipleItemsBoxes& boxes);
+  void chkEBayMotorsDutch_Click();
+  void chkDutchGallery_Click();
+  void cboTypeOfMultiItemListing_Click();
+  void cmdDutchClearAll_Click();
+
+  // Payment Services tab (frmeBayFees_payment.cpp)
+  void connectPaymentTab();
+  [[nodiscard]] PaymentChoices paymentChoices() const;
+  [[nodiscard]] PaymentBoxes paymentBoxes() const;
+  void showPaymentBoxes(const PaymentBoxes& boxes);
+  void cmdClearPaymentFees_Click();
+
   // Sites (frmeBayFees_sites.cpp)
   void connectSiteMenu();
   void SelectSite(int site);
@@ -136,6 +172,11 @@ class frmeBayFees : public QMainWindow {
   /// Connects a signal to a guarded member, whatever the signal carries.
   template <typename Sender, typename Signal>
   void on(Sender* sender, Signal signal, void (frmeBayFees::*handler)());
+  /// Connects option buttons: of a pair, the handler runs for the chosen one, not for the one that is left.
+  void onChosen(std::initializer_list<QRadioButton*> options, void (frmeBayFees::*handler)());
+  /// Calculates and shows what came out. An error goes on after what was calculated before it is shown.
+  template <typename Calculate, typename Show>
+  static void calculateAndShow(Calculate&& calculate, Show&& showResult);
   /// Shows a text in a box, unless it stands there already.
   static void show(QLineEdit& box, const std::string& text);
   [[nodiscard]] static std::string textOf(const QLineEdit& box);
@@ -154,6 +195,8 @@ class frmeBayFees : public QMainWindow {
 
   std::unique_ptr<CAuctionSite> m_site;
   std::unique_ptr<CRegularAuction> m_regularAuction;
+  std::unique_ptr<CDutchAuction> m_dutchAuction;
+  std::unique_ptr<CPaymentService> m_paymentService;
   std::shared_ptr<CStartStatus> m_startStatus;
 };
 
@@ -169,4 +212,15 @@ void frmeBayFees::guarded(Handler&& handler) noexcept {
 template <typename Sender, typename Signal>
 void frmeBayFees::on(Sender* sender, Signal signal, void (frmeBayFees::*handler)()) {
   connect(sender, signal, this, [this, handler] { guarded([this, handler] { (this->*handler)(); }); });
+}
+
+template <typename Calculate, typename Show>
+void frmeBayFees::calculateAndShow(Calculate&& calculate, Show&& showResult) {
+  try {
+    std::forward<Calculate>(calculate)();
+  } catch (const std::exception&) {
+    showResult();
+    throw;
+  }
+  showResult();
 }

@@ -10,11 +10,22 @@ struct frmeBayFees::EntryRow {
 };
 
 void frmeBayFees::connectEntryFields() {
-  const EntryRow rows[] = {
+  const auto rows = std::to_array<EntryRow>({
       {m_single.txtStartingPrice, EntryKind::Money, m_single.txtStartingPrice,
        &frmeBayFees::leaveStartingPrice},
       {m_single.txtPrice, EntryKind::Money, m_single.txtPrice, &frmeBayFees::leavePrice},
-  };
+      {m_multiple.txtDutchOpeningPrice, EntryKind::Money, m_multiple.txtDutchOpeningPrice,
+       &frmeBayFees::leaveDutchOpeningPrice},
+      // A negative lowest bid clears the single item's opening bid, not itself; see leaveDutchFinalPrice.
+      {m_multiple.txtDutchFinalPrice, EntryKind::Money, m_single.txtStartingPrice,
+       &frmeBayFees::leaveDutchFinalPrice},
+      {m_multiple.txtDutchItemsOffered, EntryKind::Count, m_multiple.txtDutchItemsOffered,
+       &frmeBayFees::leaveDutchItemsOffered},
+      {m_multiple.txtDutchItemsSold, EntryKind::Count, m_multiple.txtDutchItemsSold,
+       &frmeBayFees::DutchCalculate},
+      {m_payment.txtPaymentAmount, EntryKind::Money, m_payment.txtPaymentAmount,
+       &frmeBayFees::leavePaymentAmount},
+  });
   for (const EntryRow& row : rows) {
     auto* field = new EntryField(*row.box, row.kind, m_surroundings.locale);
     on(field, &EntryField::left, row.leave);
@@ -41,31 +52,61 @@ void frmeBayFees::raiseToGermanMinimum() {
   box.selectAll();  // what is typed next replaces the minimum instead of being appended to it
 }
 
+bool frmeBayFees::isNumber(const QLineEdit& box) const {
+  return isNumeric(textOf(box), m_surroundings.locale);
+}
+
+double frmeBayFees::valueOf(const QLineEdit& box) const {
+  return isNumber(box) ? toDouble(textOf(box), m_surroundings.locale) : 0.0;
+}
+
 void frmeBayFees::leaveStartingPrice() {
   constexpr double cent = 0.01;
   QLineEdit& box = *m_single.txtStartingPrice;
-  const std::string text = textOf(box);
-  if (!isNumeric(text, m_surroundings.locale)) {
-    box.clear();
-    return;
-  }
-  if (toDouble(text, m_surroundings.locale) < cent) box.clear();
+  if (!isNumber(box)) return box.clear();
+  if (valueOf(box) < cent) box.clear();
   recalculateSingleItemTab();
 }
 
 void frmeBayFees::leavePrice() {
-  const NumberLocale& locale = m_surroundings.locale;
-  const auto value = [&locale](const std::string& text) {
-    return isNumeric(text, locale) ? toDouble(text, locale) : 0.0;
-  };
   QLineEdit& box = *m_single.txtPrice;
+  const QLineEdit& reserve = *m_single.txtStartingPrice;
   const bool hasReserve = m_single.cboIsReserve->currentIndex() != 0;
-  if (!isNumeric(textOf(box), locale)) {
+  if (!isNumber(box)) {
     box.clear();
-  } else if (value(textOf(box)) == 0.0) {
-    show(box, withDecimalSymbol(hasReserve ? "$0.01" : "$0.00", locale));
+  } else if (valueOf(box) == 0.0) {
+    show(box, withDecimalSymbol(hasReserve ? "$0.01" : "$0.00", m_surroundings.locale));
   }
-  const std::string reserve = textOf(*m_single.txtStartingPrice);
-  if (!reserve.empty() && hasReserve && value(textOf(box)) < value(reserve)) show(box, reserve);
+  if (!reserve.text().isEmpty() && hasReserve && valueOf(box) < valueOf(reserve)) box.setText(reserve.text());
   recalculateSingleItemTab();
+}
+
+void frmeBayFees::leaveDutchOpeningPrice() {
+  QLineEdit& box = *m_multiple.txtDutchOpeningPrice;
+  if (!isNumber(box)) return box.clear();
+  if (valueOf(box) == 0.0) box.clear();
+  DutchCalculate();
+}
+
+// What is no lowest bid, an empty box included, clears the opening bid of the Single Item tab and stays
+// itself.
+void frmeBayFees::leaveDutchFinalPrice() {
+  QLineEdit& box = *m_multiple.txtDutchFinalPrice;
+  if (!isNumber(box)) return m_single.txtStartingPrice->clear();
+  if (valueOf(box) == 0.0) show(box, withDecimalSymbol("$0.00", m_surroundings.locale));
+  DutchCalculate();
+}
+
+// One item is no multiple-item listing. "01" is not looked through.
+void frmeBayFees::leaveDutchItemsOffered() {
+  QLineEdit& box = *m_multiple.txtDutchItemsOffered;
+  if (box.text() == u'0' || box.text() == u'1') box.setText(QStringLiteral("2"));
+  DutchCalculate();
+}
+
+void frmeBayFees::leavePaymentAmount() {
+  QLineEdit& box = *m_payment.txtPaymentAmount;
+  if (!isNumber(box)) return box.clear();
+  if (valueOf(box) == 0.0) show(box, withDecimalSymbol("$0.01", m_surroundings.locale));
+  CalculatePaymentFees();
 }

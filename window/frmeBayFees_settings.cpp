@@ -1,5 +1,3 @@
-#include <QRegularExpression>
-
 #include "frmeBayFees.h"
 
 namespace {
@@ -8,8 +6,11 @@ constexpr int kFirstSite = CAuctionSite::eBayUS;
 
 /// The whole number at the start of a stored text; 0 if there is none, or none that fits.
 int leadingNumber(const QString& text) {
-  static const QRegularExpression number(QStringLiteral("^\\s*([+-]?[0-9]+)"));
-  return number.match(text).captured(1).toInt();
+  const QString trimmed = text.trimmed();
+  const qsizetype sign = trimmed.startsWith(u'-') || trimmed.startsWith(u'+') ? 1 : 0;
+  qsizetype end = sign;
+  while (end < trimmed.size() && trimmed[end] >= u'0' && trimmed[end] <= u'9') ++end;
+  return QStringView(trimmed).first(end).toInt();
 }
 
 }  // namespace

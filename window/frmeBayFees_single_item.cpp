@@ -31,23 +31,18 @@ void frmeBayFees::connectSingleItemTab() {
   for (QComboBox* list : {m_single.cboExtraPhotos, m_single.cboRealEstateType}) {
     on(list, &QComboBox::currentIndexChanged, &frmeBayFees::recalculateSingleItemTab);
   }
-  for (QRadioButton* option : {m_single.optMotorcycle, m_single.optOtherVehicle, m_single.optTimeshare,
-                               m_single.optOtherRealEstate}) {
-    connect(option, &QRadioButton::toggled, this, [this](bool isChosen) {
-      if (isChosen) guarded([this] { recalculateSingleItemTab(); });  // its counterpart was left, not chosen
-    });
-  }
+  onChosen(
+      {m_single.optMotorcycle, m_single.optOtherVehicle, m_single.optTimeshare, m_single.optOtherRealEstate},
+      &frmeBayFees::recalculateSingleItemTab);
 }
 
 void frmeBayFees::recalculateSingleItemTab() {
   SingleItemBoxes boxes = singleItemBoxes();
-  try {
-    recalculateSingleItem(singleItemChoices(), m_regularAuction.get(), m_surroundings.locale, boxes);
-  } catch (const std::exception&) {
-    showSingleItemBoxes(boxes);  // as far as the calculation came
-    throw;
-  }
-  showSingleItemBoxes(boxes);
+  calculateAndShow(
+      [&] {
+        recalculateSingleItem(singleItemChoices(), m_regularAuction.get(), m_surroundings.locale, boxes);
+      },
+      [&] { showSingleItemBoxes(boxes); });
 }
 
 SingleItemChoices frmeBayFees::singleItemChoices() const {

@@ -1,5 +1,3 @@
-#include <QRegularExpression>
-
 #include "frmeBayFees.h"
 #include "tagged_strings.h"
 
@@ -56,10 +54,14 @@ void frmeBayFees::SelectSite(int site) {
   showSite(site);
   m_payment.lblTreuhandservice->setVisible(site == CAuctionSite::eBayGermany);
   m_regularAuction->Site(*m_site);
+  m_dutchAuction->Site(*m_site);
+  m_paymentService->Site(*m_site);
   SetRealEstateAvailable(true);
   ShowCurrencyLabels();
   RefreshWindow();
   guarded([this] { recalculateSingleItemTab(); });
+  guarded([this] { DutchCalculate(); });
+  guarded([this] { CalculatePaymentFees(); });
   HighlightShippingCountries();
 }
 
@@ -113,8 +115,13 @@ void frmeBayFees::SetRealEstateAvailable(bool isAvailable) {
 void frmeBayFees::ShowCurrencyLabels() {
   const std::string_view currency = m_site->CurrencyString();
   const QString text = QString::fromUtf8(currency.data(), static_cast<qsizetype>(currency.size()));
-  static const QRegularExpression name(QStringLiteral("^lblCurrency[0-9]+$"));
-  for (QLabel* label : findChildren<QLabel*>(name)) label->setText(text);
+  for (QLabel* label :
+       {m_single.lblCurrency1, m_single.lblCurrency2, m_single.lblCurrency3, m_single.lblCurrency4,
+        m_single.lblCurrency5, m_single.lblCurrency6, m_multiple.lblCurrency7, m_multiple.lblCurrency8,
+        m_multiple.lblCurrency9, m_multiple.lblCurrency10, m_payment.lblCurrency11, m_payment.lblCurrency12,
+        m_payment.lblCurrency14, m_multiple.lblCurrency15, m_multiple.lblCurrency16}) {
+    label->setText(text);
+  }
 }
 
 void frmeBayFees::HighlightShippingCountries() {

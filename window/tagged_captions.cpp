@@ -1,6 +1,10 @@
 #include "tagged_captions.h"
 
+#include <algorithm>
+#include <QAbstractButton>
 #include <QAction>
+#include <QGroupBox>
+#include <QLabel>
 #include <QTabWidget>
 #include <QWidget>
 
@@ -20,23 +24,26 @@ bool isTagged(const QString& text) {
 
 void TaggedCaptions::capture(QWidget& form) {
   m_kept.clear();
-  captureObject(form);
-  for (QObject* object : form.findChildren<QObject*>()) captureObject(*object);
+  keep(form, "windowTitle", form.windowTitle());
+  for (QWidget* widget : form.findChildren<QWidget*>()) captureWidget(*widget);
+  // An action makes up a tooltip from its text; only its text is designed.
+  for (QAction* action : form.findChildren<QAction*>()) keep(*action, "text", action->text());
 }
 
-void TaggedCaptions::captureObject(QObject& object) {
-  // An action makes up a tooltip from its text; only its text is designed.
-  const bool isAction = qobject_cast<QAction*>(&object) != nullptr;
-  const auto properties =
-      isAction ? std::vector<const char*>{"text"}
-               : std::vector<const char*>{"windowTitle", "title", "text", "toolTip", "accessibleName"};
-  for (const char* property : properties) {
-    const QString text = object.property(property).toString();
-    if (isTagged(text)) m_kept.push_back({&object, property, text});
+void TaggedCaptions::captureWidget(QWidget& widget) {
+  if (const auto* label = qobject_cast<const QLabel*>(&widget)) keep(widget, "text", label->text());
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+    keep(widget, "text", button->text());
+  if (const auto* frame = qobject_cast<const QGroupBox*>(&widget)) keep(widget, "title", frame->title());
+  keep(widget, "toolTip", widget.toolTip());
+  keep(widget, "accessibleName", widget.accessibleName());
+  if (const auto* tabs = qobject_cast<const QTabWidget*>(&widget)) {
+    for (int tab = 0; tab < tabs->count(); ++tab) keep(widget, {}, tabs->tabText(tab), tab);
   }
-  if (const auto* tabs = qobject_cast<QTabWidget*>(&object)) {
-    for (int tab = 0; tab < tabs->count(); ++tab) m_kept.push_back({&object, {}, tabs->tabText(tab), tab});
-  }
+}
+
+void TaggedCaptions::keep(QObject& object, const QByteArray& property, const QString& text, int tab) {
+  if (isTagged(text)) m_kept.push_back({&object, property, text, tab});
 }
 
 void TaggedCaptions::apply() const {

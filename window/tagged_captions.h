@@ -20,14 +20,17 @@ class TaggedCaptions {
   void apply() const;
 
  private:
+  static constexpr int kNoTab = -1;
+
   struct Kept {
     QPointer<QObject> object;
     QByteArray property;
     QString tagged;
-    int tab = -1;  ///< for the captions of tabs, which are no property
+    int tab = kNoTab;  ///< for the captions of tabs, which are no property
   };
 
-  void captureObject(QObject& object);
+  void captureWidget(QWidget& widget);
+  void keep(QObject& object, const QByteArray& property, const QString& text, int tab = kNoTab);
 
   std::vector<Kept> m_kept;
 };

@@ -1,0 +1,160 @@
+#include "multiple_items_tab.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+#include "amount_errors.h"
+#include "amount_text.h"
+#include "entry_rules.h"
+#include "fee_total.h"
+
+namespace {
+
+/// One run of the recalculation. The steps stand in the order in which they must run; each reads the boxes
+/// as the steps before left them.
+class MultipleItemsRecalculation {
+ public:
+  MultipleItemsRecalculation(const MultipleItemsChoices& choices, const MultipleItemsCalculators& calculators,
+                             const NumberLocale& locale, std::string_view notAvailable,
+                             MultipleItemsBoxes& boxes)
+      : m_choices(choices),
+        m_calculators(calculators),
+        m_locale(locale),
+        m_notAvailable(notAvailable),
+        m_boxes(boxes) {}
+
+  void run() {
+    FillDutchFinalPrice();
+    if (isComplete() && m_calculators.site != nullptr && m_calculators.auction != nullptr) {
+      ValidateDutchTextEntries();
+      DutchInsertionFee();
+      DutchExtraFeatures();
+      CalcTotalDutchSales();
+      DutchCommission();
+    }
+    formatPrices();
+  }
+
+ private:
+  // It runs before the entries are complete, and may complete them. With items left over, every winner pays
+  // the opening price.
+  void FillDutchFinalPrice() {
+    if (isFilled(m_boxes.txtDutchItemsOffered) && isFilled(m_boxes.txtDutchOpeningPrice) &&
+        isFilled(m_boxes.txtDutchItemsSold) && sold() < offered()) {
+      m_boxes.txtDutchFinalPrice = m_boxes.txtDutchOpeningPrice;
+    }
+    if (isNumeric(m_boxes.txtDutchItemsOffered, m_locale) && isFilled(m_boxes.txtDutchItemsSold) &&
+        offered() < sold()) {
+      m_boxes.txtDutchItemsSold = m_boxes.txtDutchItemsOffered;
+    }
+  }
+
+  [[nodiscard]] bool isComplete() const {
+    return isFilled(m_boxes.txtDutchItemsOffered) && isFilled(m_boxes.txtDutchOpeningPrice) &&
+           isFilled(m_boxes.txtDutchItemsSold) && isFilled(m_boxes.txtDutchFinalPrice);
+  }
+
+  void ValidateDutchTextEntries() {
+    const std::int16_t itemsSold = std::min(sold(), offered());
+    const bool isTooLow = number(m_boxes.txtDutchFinalPrice) < number(m_boxes.txtDutchOpeningPrice);
+    if (itemsSold < offered() || isTooLow) m_boxes.txtDutchFinalPrice = m_boxes.txtDutchOpeningPrice;
+    std::array<char, 8> digits;
+    const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), itemsSold);
+    m_boxes.txtDutchItemsSold.assign(digits.data(), written.ptr);
+  }
+
+  void DutchInsertionFee() {
+    const std::string price = plainText(number(m_boxes.txtDutchOpeningPrice), m_locale);
+    std::string fee;
+    try {
+      fee = m_calculators.auction->InsertionFee(price, offered(), m_choices.chkDutchTwoCategories);
+    } catch (const ConversionError&) {
+      // On no step of the ladder there is no fee that could be doubled.
+    }
+    m_boxes.txtDutchFees = fee.empty() ? "0" : fee;
+  }
+
+  void DutchExtraFeatures() {
+    const float extras = dutchExtraFeatures(m_choices, *m_calculators.site, offered());
+    m_boxes.txtExtraFeaturesDutch = twoDecimals(extras, m_locale);
+    const Currency fees = number(m_boxes.txtDutchFees) + Currency::fromNumber(static_cast<double>(extras));
+    m_boxes.txtDutchFees = twoDecimals(fees, m_locale);
+  }
+
+  void CalcTotalDutchSales() {
+    const double lowestBid = number(m_boxes.txtDutchFinalPrice).toDouble();
+    m_boxes.txtTotalDutchAuctionSales =
+        plainText(lowestBid * toDouble(m_boxes.txtDutchItemsSold, m_locale), m_locale);
+  }
+
+  void DutchCommission() {
+    const Currency commission =
+        number(m_calculators.auction->FVF(m_boxes.txtDutchFinalPrice, m_boxes.txtDutchItemsSold));
+    const Currency fees = number(m_boxes.txtDutchFees) + commission;
+    m_boxes.txtDutchFees = twoDecimals(fees, m_locale);
+    const std::int16_t itemsSold = sold();
+    m_boxes.txtDutchCostPerItem =
+        itemsSold != 0 ? twoDecimals(fees.toDouble() / static_cast<double>(itemsSold), m_locale)
+                       : std::string(m_notAvailable);
+  }
+
+  void formatPrices() {
+    for (std::string* box :
+         {&m_boxes.txtDutchOpeningPrice, &m_boxes.txtDutchFinalPrice, &m_boxes.txtTotalDutchAuctionSales}) {
+      *box = twoDecimals(std::string_view(*box), m_locale);
+    }
+  }
+
+  // A menu command can meet a box in which only the decimal symbol was typed so far: it counts as empty.
+  [[nodiscard]] bool isFilled(const std::string& box) const {
+    return !box.empty() && !isLoneDecimalSymbol(box, m_locale);
+  }
+
+  [[nodiscard]] std::int16_t offered() const { return toInteger16(m_boxes.txtDutchItemsOffered, m_locale); }
+  [[nodiscard]] std::int16_t sold() const { return toInteger16(m_boxes.txtDutchItemsSold, m_locale); }
+  [[nodiscard]] Currency number(std::string_view text) const { return toCurrency(text, m_locale); }
+
+  const MultipleItemsChoices& m_choices;
+  const MultipleItemsCalculators& m_calculators;
+  const NumberLocale& m_locale;
+  std::string_view m_notAvailable;
+  MultipleItemsBoxes& m_boxes;
+};
+
+}  // namespace
+
+void recalculateMultipleItems(const MultipleItemsChoices& choices,
+                              const MultipleItemsCalculators& calculators, const NumberLocale& locale,
+                              std::string_view notAvailable, MultipleItemsBoxes& boxes) {
+  MultipleItemsRecalculation(choices, calculators, locale, notAvailable, boxes).run();
+}
+
+float dutchExtraFeatures(const MultipleItemsChoices& choices, const CAuctionSite& site, int itemsOffered) {
+  constexpr bool isMultipleItem = true;
+  constexpr bool isVehicle = false;
+  constexpr bool isRealEstate = false;
+  const bool isMotors = choices.chkEBayMotorsDutch;
+  FeeTotal fees(choices.chkDutchTwoCategories);
+  if (choices.chkDutchFeaturedPlus)
+    fees.addDoubledForTwoCategories(site.FeaturedPlusFee(isMotors, isMultipleItem));
+  if (choices.chkDutchHomePageFeatured) fees.add(site.HomePageFeaturedFee(itemsOffered));
+  // Unlike a single item, several items pay for the gallery and for being featured in it.
+  if (choices.chkDutchGallery) {
+    fees.addDoubledForTwoCategories(
+        site.GalleryFee(isVehicle, choices.chkExtraPicturesDutch, choices.cboExtraPicturesDutch));
+  }
+  if (choices.chkDutchGalleryFeatured)
+    fees.addDoubledForTwoCategories(site.GalleryFeaturedFee(isMotors, isVehicle));
+  if (choices.chkDutchBold) fees.addDoubledForTwoCategories(site.BoldFee(isVehicle, isRealEstate));
+  if (choices.chkDutchHighlight) fees.addDoubledForTwoCategories(site.HighlightFee());
+  if (choices.chkDutchGreatGift) fees.addDoubledForTwoCategories(site.GiftIconFee(isVehicle));
+  if (choices.chkDutchTenDayAuction) fees.addDoubledForTwoCategories(site.TenDayAuctionFee(isVehicle));
+  if (choices.chkDutchScheduled) fees.add(site.ScheduledListingFee(isVehicle));
+  if (choices.chkDutchSubtitle) fees.addDoubledForTwoCategories(site.SubtitleFee());
+  if (choices.chkDutchListingDesigner) fees.addDoubledForTwoCategories(site.ListingDesignerFee());
+  // And unlike a single item's, their pictures are not doubled.
+  fees.add(site.PhotosFee(choices.chkExtraPicturesDutch, choices.cboExtraPicturesDutch,
+                          choices.chkSupersizeDutch, choices.chkSlideshowDutch, isVehicle));
+  return fees.total();
+}

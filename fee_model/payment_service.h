@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "auction_site.h"
+#include "number_locale.h"
+
+/// What a payment service takes from an amount that a seller receives. The percentages of PayPal are the same
+/// on all sites and stand here; flat fees, caps and all of Billpoint's figures are the schedule's.
+///
+/// `RateText` is the exchange rate as the user typed it, in local currency units per US dollar; a text that
+/// is empty or no number means the site's default. Every calculation writes the rate to the schedule. An
+/// amount that is no number throws ConversionError, one too large OverflowError.
+class CPaymentService {
+ public:
+  explicit CPaymentService(NumberLocale locale) : m_locale(std::move(locale)) {}
+
+  /// The schedule to ask and to tell the rate. It must outlive this object.
+  void Site(CAuctionSite& site) { m_site = &site; }
+
+  /// The fee in plain number text. The cap for payments that are no credit card's comes before the
+  /// surcharge for international ones, which can so exceed it.
+  [[nodiscard]] std::string PayPalFee(std::string_view Amount, bool IsMerchantRate, bool IsCreditCard,
+                                      std::string_view RateText, bool IsInternational);
+
+  /// The fee in plain number text, or "N/A" above the largest amount that can be paid so.
+  [[nodiscard]] std::string BillpointFee(std::string_view Amount, bool IsDiscounted, bool IsCreditCard,
+                                         bool IsInternational, std::string_view RateText);
+
+ private:
+  [[nodiscard]] CAuctionSite& schedule();
+  [[nodiscard]] float ConversionRateFromText(std::string_view text);
+  [[nodiscard]] std::string withInternationalSurcharge(std::string_view fee, double amount) const;
+
+  NumberLocale m_locale;
+  CAuctionSite m_noSite;
+  CAuctionSite* m_site = nullptr;
+};

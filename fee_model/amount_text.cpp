@@ -96,10 +96,6 @@ float storedAsSingle(double value) {
   return stored;
 }
 
-std::string describe(double value) {
-  return std::isfinite(value) ? plainText(value, NumberLocale{}) : std::string("infinity");
-}
-
 std::string plainText(float value, const NumberLocale& locale) {
   return plainDigits(digitsOf(value), kSingleDigits, locale);
 }

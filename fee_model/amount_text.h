@@ -33,9 +33,6 @@ Currency toCurrency(std::string_view text, const NumberLocale& locale);
 /// A product or sum, made in double, as it is stored: in binary32. Throws OverflowError if it does not fit.
 float storedAsSingle(double value);
 
-/// A number for the text of an error: in point-decimal plain form, "infinity" for what is not finite.
-std::string describe(double value);
-
 /// Plain form: at most 7 (float) or 15 (double) significant digits, no fixed decimals, a leading blank for
 /// what is not negative, an exponent from 1E7 (float) or 1E15 (double) on: " 0.35", "-1.5", " 1.234568E+08".
 /// `value` must be finite, here and in twoDecimals.

@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "amount_errors.h"
-#include "amount_text.h"
+#include "decimal.h"
 
 namespace {
 
@@ -29,7 +29,7 @@ Currency operator+(Currency left, Currency right) {
   const bool isTooLarge = right.m_units > 0 && left.m_units > Limits::max() - right.m_units;
   const bool isTooSmall = right.m_units < 0 && left.m_units < Limits::min() - right.m_units;
   if (isTooLarge || isTooSmall) {
-    throw OverflowError(plainText(left, NumberLocale{}) + " +" + plainText(right, NumberLocale{}));
+    throw OverflowError(describe(left.toDouble()) + " + " + describe(right.toDouble()));
   }
   return Currency(left.m_units + right.m_units);
 }

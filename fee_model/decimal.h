@@ -18,6 +18,9 @@ struct Decimal {
   [[nodiscard]] bool isZero() const { return digits.empty(); }
 };
 
+/// Drops the zeros at both ends of the digits, as a Decimal has none there.
+void dropOuterZeros(Decimal& number);
+
 /// Reads a number as a user writes it, or nothing if the whole text is not one. Accepted are: blanks at both
 /// ends; one leading or trailing sign, or one pair of parentheses for minus; one currency sign in front or
 /// behind, with blanks between it and the digits; digits with at most one decimal symbol; group signs
@@ -43,3 +46,6 @@ std::optional<double> nearestDouble(const Decimal& number);
 
 /// "-1.5", "0.35", all digits, without exponent.
 std::string writeFixed(const Decimal& number, std::string_view decimalSymbol);
+
+/// A number for the text of an error: with a point, "infinity" for what is not finite.
+std::string describe(double value);

@@ -20,7 +20,7 @@ class LanguageResources {
 };
 
 /// The active library's texts, or nothing while the program speaks from its own English table.
-void setLanguageObject(std::unique_ptr<LanguageResources> languageObject);
+void setLanguageObject(std::unique_ptr<LanguageResources> newObject);
 bool hasLanguageObject();
 
 /// The text of a tagged string: the active library's, else the English one. A text without a tag comes back

@@ -5,13 +5,13 @@
 program_pid= # of the program under test
 window=      # its id on the display
 
-# The controls of the Single Item tab in the order of the Tab key, and the notepad's after them.
+# The controls of the Single Item tab in the order of the Tab key, then the notepad's, then the row of tabs.
 TAB_ORDER=(
   txtStartingPrice txtPrice chkDidNotSell cboSingleItemType cboIsReserve chkMotors chkVehicle optMotorcycle
   chkRealEstate chkSubTitleSingleItem chkListingDesigner chkScheduled chkSlideshow chkSupersizePhotos
   chkExtraPhotos cboExtraPhotos chkBIN chkTenDayAuction chkTwoCategories chkFeaturedCategory chkFeatured
   chkGallery chkGalleryFeatured chkHighlighted chkBold chkGiftIcon txtInsertionFee txtExtras txtFVF txtFees
-  cmdCalculate cmdClearAll cmdNotepad txtNotes)
+  cmdCalculate cmdClearAll cmdNotepad txtNotes SSTab1)
 
 # What the Tab key passes by because it is disabled or hidden just now.
 declare -A UNREACHABLE=([chkVehicle]=1 [optMotorcycle]=1 [cboExtraPhotos]=1 [chkGalleryFeatured]=1 [txtNotes]=1)
@@ -35,18 +35,21 @@ press() { xdotool key --delay 2 "$@"; }
 
 enter() { xdotool type --delay 2 "$1"; }
 
-# go_to CONTROL: by the first label's mnemonic and the Tab key.
+# go_to CONTROL: by the first label's mnemonic, then with Tab or Shift+Tab, whichever is shorter.
 go_to() {
-  local control tabs=()
+  local control stops=0 target=-1 keys=()
   for control in "${TAB_ORDER[@]}"; do
-    if [[ $control == "$1" ]]; then
-      [[ -z ${UNREACHABLE[$1]-} ]] || fail "$1 cannot be reached now" || return
-      press alt+e "${tabs[@]}"
-      return
-    fi
-    [[ -n ${UNREACHABLE[$control]-} ]] || tabs+=(Tab)
+    [[ -z ${UNREACHABLE[$control]-} ]] || continue
+    [[ $control != "$1" ]] || target=$stops
+    stops=$((stops + 1))
   done
-  fail "there is no control $1"
+  ((target >= 0)) || fail "$1 cannot be reached now" || return
+  if ((target <= stops / 2)); then
+    for ((; target > 0; target--)); do keys+=(Tab); done
+  else
+    for ((; target < stops; target++)); do keys+=(shift+Tab); done
+  fi
+  press alt+e "${keys[@]}"
 }
 
 reachable() { unset "UNREACHABLE[$1]"; }

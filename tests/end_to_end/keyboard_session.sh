@@ -18,7 +18,7 @@ folder=$(mktemp -d)
 clean_up() {
   local status=$?
   if ((status != 0)); then
-    [[ -z $window ]] || save_screenshot "$window" "$pictures/failure.png" || true
+    [[ -z ${DISPLAY-} ]] || grab root "$pictures/failure.png" || true
     cat "$folder/program.log" >&2 || true
   fi
   [[ -z $program_pid ]] || kill "$program_pid" 2> /dev/null || true
@@ -34,10 +34,9 @@ step "start on a machine that has no settings yet"
 start_virtual_display "$folder"
 "$program" > "$folder/program.log" 2>&1 &
 program_pid=$!
-window=$(visible_window Tessaloom) || true
-[[ -n $window ]] || fail "no window appeared"
+window=$(visible_window Tessaloom "$program_pid") || fail "no window appeared"
 until_true 20 is_active || fail "the window did not become active"
-[[ $(xdotool getwindowname "$window") == "Tessaloom - Calculate Your eBay Auction Fees" ]] ||
+[[ $(xdotool getwindowname "$window") == "Tessaloom for eBay.com" ]] ||
   fail "the window's title is \"$(xdotool getwindowname "$window")\""
 until_true 20 is_stored Site=1 || fail "the first start stored no site"
 
@@ -107,11 +106,16 @@ fill_in txtPrice 50.00
 fill_in txtStartingPrice 150.00
 # 2.40 up to 199.99, and 2.00 for a reserve of 50.00 or more; not sold, so no final value fee
 expect_figures 4.40 0.00 "" 4.40
-expect txtPrice 50.00
 
-step "a closing bid that meets the reserve"
+step "a closing bid that is left below the reserve is raised to it"
+expect txtPrice 50.00
+# 25.00 x 5.25 % + 125.00 x 2.75 % = 4.75, and a reserve that is met costs nothing
+expect_figures 2.40 0.00 4.75 7.15
+expect txtPrice 150.00
+
+step "a closing bid above the reserve"
 fill_in txtPrice 185.00
-# 25.00 x 5.25 % + 160.00 x 2.75 % = 5.7125, and the reserve costs nothing
+# 25.00 x 5.25 % + 160.00 x 2.75 % = 5.7125
 expect_figures 2.40 0.00 5.71 8.11
 
 step "Item Did Not Sell"
@@ -122,14 +126,14 @@ switch chkDidNotSell
 reachable txtPrice
 expect txtPrice 0.00
 
-step "a closing bid below the opening bid"
+step "no reserve, and a closing bid below the opening bid"
 go_to cboIsReserve
 press Up
-fill_in txtPrice 5.00
 fill_in txtStartingPrice 10.00
-# without a reserve the item cannot sell below its opening bid; 5.25 % of 10.00, in single precision, is 0.525
-expect txtPrice 10.00
+fill_in txtPrice 5.00
+# without a reserve nothing sells below its opening bid; 5.25 % of 10.00 is 0.525
 expect_figures 0.60 0.00 0.53 1.13
+expect txtPrice 10.00
 
 step "the Calculate button, and letters in a box for amounts"
 fill_in txtPrice 2x5

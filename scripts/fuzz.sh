@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# fuzz.sh SECONDS: builds the fuzz targets and runs each for so long, from a copy of its corpus. What a target
+# finds is left in build/fuzz/findings.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.."
+source scripts/build.sh
+
+seconds=$1
+configure fuzz build/fuzz
+build build/fuzz
+mkdir -p build/fuzz/findings
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+mapfile -t targets < <(find build/fuzz/fuzz -maxdepth 1 -type f -name '*_fuzz' -executable | sort)
+((${#targets[@]} > 0)) || {
+  echo "There is no fuzz target in build/fuzz/fuzz." >&2
+  exit 1
+}
+for target in "${targets[@]}"; do
+  name=$(basename "$target" _fuzz)
+  corpus=$work/$name
+  mkdir "$corpus"
+  cp -r "fuzz/corpus/$name/." "$corpus"
+  echo "$name: $seconds seconds"
+  "$target" -max_total_time="$seconds" -print_final_stats=1 -verbosity=0 -artifact_prefix=build/fuzz/findings/ "$corpus"
+done

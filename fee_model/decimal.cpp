@@ -35,9 +35,10 @@ Decimal printedDigits(double value, int count) {
   const std::size_t exponentMark = text.find('e');
   Decimal number;
   number.isNegative = text.front() == '-';
-  for (const char c : text.substr(0, exponentMark)) {
-    if (c >= '0' && c <= '9') number.digits.push_back(c);
-  }
+  const std::string_view mantissa =
+      text.substr(number.isNegative ? 1 : 0, exponentMark - (number.isNegative ? 1 : 0));
+  number.digits = mantissa.front();
+  if (mantissa.size() > 1) number.digits.append(mantissa.substr(2));  // behind the point
   int exponent = 0;
   const char* exponentText = text.data() + exponentMark + 1;
   if (*exponentText == '+') ++exponentText;
@@ -118,10 +119,11 @@ std::optional<std::int64_t> scaledHalfEven(const Decimal& number, int decimals) 
   if (number.isZero() || wholeDigits < 0) return 0;
   if (wholeDigits > mostDigits) return std::nullopt;
   const auto kept = static_cast<std::size_t>(wholeDigits);
-  std::string whole = number.digits.substr(0, kept);
-  whole.resize(kept, '0');
   std::uint64_t units = 0;
-  std::from_chars(whole.data(), whole.data() + whole.size(), units);
+  for (std::size_t at = 0; at < kept; ++at) {
+    const char digit = at < number.digits.size() ? number.digits[at] : '0';
+    units = units * 10 + static_cast<std::uint64_t>(digit - '0');
+  }
   if (kept < number.digits.size()) {
     const bool isHalf = number.digits[kept] == '5' && kept + 1 == number.digits.size();
     if (isHalf ? units % 2 == 1 : number.digits[kept] >= '5') ++units;

@@ -31,6 +31,9 @@ class AmountReader {
  private:
   enum class Parenthesis { None, Open, Closed };
 
+  // Most amounts are bare digits: nothing to look for at their ends.
+  [[nodiscard]] bool isAtDigitOrEnd() const { return m_rest.empty() || isDigit(m_rest.front()); }
+
   bool take(std::string_view piece) {
     if (piece.empty() || !m_rest.starts_with(piece)) return false;
     m_rest.remove_prefix(piece.size());
@@ -43,6 +46,7 @@ class AmountReader {
 
   // The no-break spaces are what locales put between a number and its currency sign.
   bool takeBlanks() {
+    if (isAtDigitOrEnd()) return false;
     bool any = false;
     while (takeAnyOf({" ", "\t", "\u00A0", "\u202F"})) any = true;
     return any;
@@ -77,7 +81,7 @@ class AmountReader {
   }
 
   void takePrefix() {
-    for (;;) {
+    while (!isAtDigitOrEnd()) {
       if (takeCurrency()) {
         takeBlanks();
       } else if (!takeSign() && !takeOpening()) {
@@ -87,7 +91,7 @@ class AmountReader {
   }
 
   void takeSuffix() {
-    for (;;) {
+    while (!m_rest.empty()) {
       if (takeSign() || takeClosing() || takeCurrency()) continue;
       const std::string_view beforeBlanks = m_rest;
       if (takeBlanks() && takeCurrency()) continue;

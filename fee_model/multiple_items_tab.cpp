@@ -38,15 +38,17 @@ class MultipleItemsRecalculation {
 
  private:
   // It runs before the entries are complete, and may complete them. With items left over, every winner pays
-  // the opening price.
+  // the opening price. A count that is too large is an error here already, before anything is changed.
   void FillDutchFinalPrice() {
-    if (isFilled(m_boxes.txtDutchItemsOffered) && isFilled(m_boxes.txtDutchOpeningPrice) &&
-        isFilled(m_boxes.txtDutchItemsSold) && sold() < offered()) {
-      m_boxes.txtDutchFinalPrice = m_boxes.txtDutchOpeningPrice;
-    }
-    if (isNumeric(m_boxes.txtDutchItemsOffered, m_locale) && isFilled(m_boxes.txtDutchItemsSold) &&
-        offered() < sold()) {
+    if (!isFilled(m_boxes.txtDutchItemsOffered) || !isFilled(m_boxes.txtDutchItemsSold)) return;
+    const bool hasOpeningPrice = isFilled(m_boxes.txtDutchOpeningPrice);
+    if (!hasOpeningPrice && !isNumeric(m_boxes.txtDutchItemsOffered, m_locale)) return;
+    m_offered = toInteger16(m_boxes.txtDutchItemsOffered, m_locale);
+    m_sold = toInteger16(m_boxes.txtDutchItemsSold, m_locale);
+    if (m_sold < m_offered && hasOpeningPrice) m_boxes.txtDutchFinalPrice = m_boxes.txtDutchOpeningPrice;
+    if (m_sold > m_offered) {
       m_boxes.txtDutchItemsSold = m_boxes.txtDutchItemsOffered;
+      m_sold = m_offered;
     }
   }
 
@@ -56,11 +58,10 @@ class MultipleItemsRecalculation {
   }
 
   void ValidateDutchTextEntries() {
-    const std::int16_t itemsSold = std::min(sold(), offered());
     const bool isTooLow = number(m_boxes.txtDutchFinalPrice) < number(m_boxes.txtDutchOpeningPrice);
-    if (itemsSold < offered() || isTooLow) m_boxes.txtDutchFinalPrice = m_boxes.txtDutchOpeningPrice;
+    if (m_sold < m_offered || isTooLow) m_boxes.txtDutchFinalPrice = m_boxes.txtDutchOpeningPrice;
     std::array<char, 8> digits;
-    const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), itemsSold);
+    const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), m_sold);
     m_boxes.txtDutchItemsSold.assign(digits.data(), written.ptr);
   }
 
@@ -68,7 +69,7 @@ class MultipleItemsRecalculation {
     const std::string price = plainText(number(m_boxes.txtDutchOpeningPrice), m_locale);
     std::string fee;
     try {
-      fee = m_calculators.auction->InsertionFee(price, offered(), m_choices.chkDutchTwoCategories);
+      fee = m_calculators.auction->InsertionFee(price, m_offered, m_choices.chkDutchTwoCategories);
     } catch (const ConversionError&) {
       // On no step of the ladder there is no fee that could be doubled.
     }
@@ -76,7 +77,7 @@ class MultipleItemsRecalculation {
   }
 
   void DutchExtraFeatures() {
-    const float extras = dutchExtraFeatures(m_choices, *m_calculators.site, offered());
+    const float extras = dutchExtraFeatures(m_choices, *m_calculators.site, m_offered);
     m_boxes.txtExtraFeaturesDutch = twoDecimals(extras, m_locale);
     const Currency fees = number(m_boxes.txtDutchFees) + Currency::fromNumber(static_cast<double>(extras));
     m_boxes.txtDutchFees = twoDecimals(fees, m_locale);
@@ -84,8 +85,7 @@ class MultipleItemsRecalculation {
 
   void CalcTotalDutchSales() {
     const double lowestBid = number(m_boxes.txtDutchFinalPrice).toDouble();
-    m_boxes.txtTotalDutchAuctionSales =
-        plainText(lowestBid * toDouble(m_boxes.txtDutchItemsSold, m_locale), m_locale);
+    m_boxes.txtTotalDutchAuctionSales = plainText(lowestBid * static_cast<double>(m_sold), m_locale);
   }
 
   void DutchCommission() {
@@ -93,10 +93,9 @@ class MultipleItemsRecalculation {
         number(m_calculators.auction->FVF(m_boxes.txtDutchFinalPrice, m_boxes.txtDutchItemsSold));
     const Currency fees = number(m_boxes.txtDutchFees) + commission;
     m_boxes.txtDutchFees = twoDecimals(fees, m_locale);
-    const std::int16_t itemsSold = sold();
-    m_boxes.txtDutchCostPerItem =
-        itemsSold != 0 ? twoDecimals(fees.toDouble() / static_cast<double>(itemsSold), m_locale)
-                       : std::string(m_notAvailable);
+    m_boxes.txtDutchCostPerItem = m_sold != 0
+                                      ? twoDecimals(fees.toDouble() / static_cast<double>(m_sold), m_locale)
+                                      : std::string(m_notAvailable);
   }
 
   void formatPrices() {
@@ -111,8 +110,6 @@ class MultipleItemsRecalculation {
     return !box.empty() && !isLoneDecimalSymbol(box, m_locale);
   }
 
-  [[nodiscard]] std::int16_t offered() const { return toInteger16(m_boxes.txtDutchItemsOffered, m_locale); }
-  [[nodiscard]] std::int16_t sold() const { return toInteger16(m_boxes.txtDutchItemsSold, m_locale); }
   [[nodiscard]] Currency number(std::string_view text) const { return toCurrency(text, m_locale); }
 
   const MultipleItemsChoices& m_choices;
@@ -120,6 +117,8 @@ class MultipleItemsRecalculation {
   const NumberLocale& m_locale;
   std::string_view m_notAvailable;
   MultipleItemsBoxes& m_boxes;
+  std::int16_t m_offered = 0;  ///< the counts as they are calculated with, once both are filled in
+  std::int16_t m_sold = 0;
 };
 
 }  // namespace

@@ -13,7 +13,9 @@ constexpr double kInternationalShare = 0.01;
 CAuctionSite& CPaymentService::schedule() { return m_site != nullptr ? *m_site : m_noSite; }
 
 float CPaymentService::ConversionRateFromText(std::string_view text) {
-  return isNumeric(text, m_locale) ? toSingle(text, m_locale) : schedule().DefaultConversionRate();
+  // On eBay.com nothing is converted: what another site left in the hidden box has no effect.
+  const bool isUsed = schedule().Site() != CAuctionSite::eBayUS && isNumeric(text, m_locale);
+  return isUsed ? toSingle(text, m_locale) : schedule().DefaultConversionRate();
 }
 
 std::string CPaymentService::withInternationalSurcharge(std::string_view fee, double amount) const {
@@ -41,10 +43,12 @@ std::string CPaymentService::BillpointFee(std::string_view Amount, bool IsDiscou
   const double amount = toDouble(Amount, m_locale);
   site.ConversionRate(ConversionRateFromText(RateText));
   const float flatFee = site.BillpointFlatFee();
+  // Compared like the bounds, in single precision: an amount at a converted bound is not above it.
+  const auto compared = static_cast<float>(amount);
   std::string fee;
-  if (amount <= static_cast<double>(site.BillpointThreshold())) {
+  if (compared <= site.BillpointThreshold()) {
     fee = plainText(flatFee, m_locale);
-  } else if (amount > static_cast<double>(site.BillpointMax(IsDiscounted, IsCreditCard))) {
+  } else if (compared > site.BillpointMax(IsDiscounted, IsCreditCard)) {
     fee = "N/A";
   } else {
     const float rate =

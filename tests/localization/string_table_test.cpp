@@ -26,8 +26,7 @@ TEST(StringTable, AnIdThatItLacksHasTheEmptyText) {
 }
 
 TEST(StringTable, IdsThatNoWindowShowsAreKeptEmptyForTheLibraries) {
-  for (const int id :
-       {202, 210, 214, 226, 230, 437, 438, 457, 461, 602, 606, 608, 614, 658, 666, 676, 677}) {
+  for (const int id : {202, 210, 214, 226, 230, 437, 438, 457, 461, 602, 606, 608, 614, 658, 666, 676, 677}) {
     EXPECT_TRUE(StringTable::englishText(id).isEmpty()) << id;
   }
 }

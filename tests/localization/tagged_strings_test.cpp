@@ -24,11 +24,11 @@ struct FailingResources : Localization::LanguageResources {
 
 class TaggedStrings : public ::testing::Test {
  protected:
-  TaggedStrings() {
+  void SetUp() override {
     Localization::InitLanguage();
     Localization::setDebugLogListener([this](const QString& message) { log << message; });
   }
-  ~TaggedStrings() override {
+  void TearDown() override {
     Localization::setDebugLogListener({});
     Localization::setLanguageObject(nullptr);
   }

@@ -34,11 +34,11 @@ void Calculator::type(const char* box, const QString& text) {
   edit.selectAll();
   if (text.isEmpty()) QTest::keyClick(&edit, Qt::Key_Delete);
   for (const uint character : text.toUcs4()) {
-    const QString typed = QString::fromUcs4(reinterpret_cast<const char32_t*>(&character), 1);
     if (character < 0x80) {
       QTest::keyClick(&edit, static_cast<char>(character));
     } else {
-      QTest::sendKeyEvent(QTest::Click, &edit, Qt::Key_unknown, typed, Qt::NoModifier);
+      const char32_t typed = character;
+      QTest::sendKeyEvent(QTest::Click, &edit, Qt::Key_unknown, QString::fromUcs4(&typed, 1), Qt::NoModifier);
     }
   }
 }

@@ -51,7 +51,7 @@ QString captionOf(const frmeBayFees& window, const QObject& object) {
   if (qobject_cast<const QLineEdit*>(&object) != nullptr) return {};
   if (kindOf(object) == QStringLiteral("tab")) {
     const auto* tabs = window.findChild<QTabWidget*>(QStringLiteral("SSTab1"));
-    return tabs->tabText(tabs->indexOf(qobject_cast<QWidget*>(const_cast<QObject*>(&object))));
+    return tabs->tabText(tabs->indexOf(window.findChild<QWidget*>(object.objectName())));
   }
   const QString title = object.property("title").toString();
   return title.isEmpty() ? object.property("text").toString() : title;

@@ -1,3 +1,4 @@
+#include <array>
 #include <QtTest>
 
 #include "calculator.h"
@@ -19,58 +20,22 @@ struct SiteLook {
   QList<int> boldHeadings;
 };
 
-const QList<SiteLook>& looks() {
-  static const QList<SiteLook> all{{1,
-                                    "mnuOptionsSiteEbay",
-                                    "Tessaloom for eBay.com",
-                                    "Buyer outside USA",
-                                    "$",
-                                    false,
-                                    false,
-                                    true,
-                                    true,
-                                    true,
-                                    {0, 4}},
-                                   {2,
-                                    "mnuOptionsSiteUK",
-                                    "Tessaloom for eBay UK",
-                                    "Buyer outside UK",
-                                    "GBP",
-                                    true,
-                                    false,
-                                    false,
-                                    true,
-                                    true,
-                                    {2}},
-                                   {3,
-                                    "mnuOptionsSiteCanada",
-                                    "Tessaloom for eBay Canada (items listed in C$)",
-                                    "Buyer outside Canada/USA",
-                                    "C$",
-                                    true,
-                                    false,
-                                    false,
-                                    true,
-                                    true,
-                                    {1}},
-                                   {4,
-                                    "mnuOptionsSiteGermany",
-                                    "Tessaloom for eBay Germany",
-                                    "Buyer outside Germany",
-                                    "EUR",
-                                    true,
-                                    true,
-                                    false,
-                                    false,
-                                    false,
-                                    {3}}};
-  return all;
-}
+// clang-format off
+const std::array<SiteLook, 4> kLooks{{
+    {1, "mnuOptionsSiteEbay",    "Tessaloom for eBay.com",     "Buyer outside USA",        "$",   false, false, true,  true,  true,  {0, 4}},
+    {2, "mnuOptionsSiteUK",      "Tessaloom for eBay UK",      "Buyer outside UK",         "GBP", true,  false, false, true,  true,  {2}},
+    {3, "mnuOptionsSiteCanada",  "Tessaloom for eBay Canada (items listed in C$)",
+                                                               "Buyer outside Canada/USA", "C$",  true,  false, false, true,  true,  {1}},
+    {4, "mnuOptionsSiteGermany", "Tessaloom for eBay Germany", "Buyer outside Germany",    "EUR", true,  true,  false, false, false, {3}},
+}};
+// clang-format on
+
+const SiteLook& lookOf(int site) { return kLooks.at(static_cast<std::size_t>(site - 1)); }
 
 void compareLook(const Calculator& calculator, const frmeBayFees& window, const SiteLook& look) {
   QCOMPARE(window.windowTitle(), QString::fromLatin1(look.title));
   QCOMPARE(calculator.shown("chkInternationalPayPal"), QString::fromLatin1(look.buyer));
-  for (const SiteLook& each : looks()) {
+  for (const SiteLook& each : kLooks) {
     QCOMPARE(calculator.find<QAction>(each.menuItem).isChecked(), each.site == look.site);
   }
   for (int number = 1; number <= 16; ++number) {
@@ -130,7 +95,7 @@ class SiteSwitchTest : public QObject {
     Calculator calculator(kPointLocale, from);
     calculator.load();
     calculator.selectSite(to);
-    compareLook(calculator, calculator.window(), looks()[to - 1]);
+    compareLook(calculator, calculator.window(), lookOf(to));
   }
 
   void everySwitchRecalculatesAllTabs_data() {
@@ -194,7 +159,7 @@ class SiteSwitchTest : public QObject {
     letItSettle();
     QCOMPARE(calculator.messages.shown.size(), 1);
     QCOMPARE(calculator.shown("txtPayPalFee"), QStringLiteral("29.16"));
-    compareLook(calculator, calculator.window(), looks()[1]);
+    compareLook(calculator, calculator.window(), lookOf(2));
   }
 
   void theOutgoingRateIsStoredUnderItsOwnKeyFirst() {
@@ -317,9 +282,9 @@ class SiteSwitchTest : public QObject {
     calculator.load();
     letItSettle();
     QVERIFY(calculator.messages.shown.isEmpty());
-    if (site > 0) return compareLook(calculator, calculator.window(), looks()[site - 1]);
+    if (site > 0) return compareLook(calculator, calculator.window(), lookOf(site));
     // No such site: no fees, no currency, no check mark, the designed title.
-    for (const SiteLook& look : looks()) QVERIFY(!calculator.find<QAction>(look.menuItem).isChecked());
+    for (const SiteLook& look : kLooks) QVERIFY(!calculator.find<QAction>(look.menuItem).isChecked());
     QCOMPARE(calculator.window().windowTitle(),
              QStringLiteral("Tessaloom - Calculate Your eBay Auction Fees"));
     QCOMPARE(calculator.shown("lblCurrency1"), QString());

@@ -52,7 +52,7 @@ class MultipleItemsTab : public testing::Test {
     boxes.txtDutchCostPerItem = "4.5";
   }
 
-  const CDutchAuction& auction() const { return m_auction; }
+  [[nodiscard]] const CDutchAuction& auction() const { return m_auction; }
 
   CAuctionSite site;
   MultipleItemsChoices choices;

@@ -428,13 +428,19 @@ TEST(ReserveFee, NeedsThreeNumbersThoughOnlyTheFirstCounts) {
   EXPECT_EQ(calculator.ReserveFee("40", "123.45", "-6", false, false, false), " 1");
   for (const char* text : {"", "abc", ".", " "}) {
     SCOPED_TRACE(text);
-    EXPECT_THROW(calculator.ReserveFee(text, "0", "0", false, false, false), ConversionError);
-    EXPECT_THROW(calculator.ReserveFee("40", text, "0", false, false, false), ConversionError);
-    EXPECT_THROW(calculator.ReserveFee("40", "0", text, false, false, false), ConversionError);
+    EXPECT_THROW(static_cast<void>(calculator.ReserveFee(text, "0", "0", false, false, false)),
+                 ConversionError);
+    EXPECT_THROW(static_cast<void>(calculator.ReserveFee("40", text, "0", false, false, false)),
+                 ConversionError);
+    EXPECT_THROW(static_cast<void>(calculator.ReserveFee("40", "0", text, false, false, false)),
+                 ConversionError);
   }
-  EXPECT_THROW(calculator.ReserveFee("1e39", "0", "0", false, false, false), OverflowError);
-  EXPECT_THROW(calculator.ReserveFee("40", "1e39", "0", false, false, false), OverflowError);
-  EXPECT_THROW(calculator.ReserveFee("40", "0", "1e39", false, false, false), OverflowError);
+  EXPECT_THROW(static_cast<void>(calculator.ReserveFee("1e39", "0", "0", false, false, false)),
+               OverflowError);
+  EXPECT_THROW(static_cast<void>(calculator.ReserveFee("40", "1e39", "0", false, false, false)),
+               OverflowError);
+  EXPECT_THROW(static_cast<void>(calculator.ReserveFee("40", "0", "1e39", false, false, false)),
+               OverflowError);
 }
 
 TEST(FinalValueFee, FollowsTheThreeTiers) {

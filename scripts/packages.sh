@@ -2,7 +2,7 @@
 # Sourced by run, test and .ci/run: installs the Debian packages that are missing, and says so.
 
 # What building and running the calculator needs.
-RUN_PACKAGES=(cmake ninja-build g++ qt6-base-dev)
+RUN_PACKAGES=(cmake ninja-build g++ qt6-base-dev qt6-tools-dev qt6-l10n-tools)
 
 # What a virtual display needs: the server, a window manager, the questions asked to both, the screenshot.
 DISPLAY_PACKAGES=(xvfb openbox x11-utils xdotool imagemagick)

@@ -19,6 +19,9 @@ constexpr int kHeightWithNotepad = 8415;
 constexpr int kHeightWithoutNotepad = 6600;
 constexpr int kCaptionAndMenuHeight = 840;
 
+// In the designed menu of the languages; more are added when there are more languages.
+constexpr int kLanguagePlaces = 11;
+
 #ifdef Q_OS_WIN
 constexpr QLatin1StringView kProgramFile("Tessaloom.exe");
 #else
@@ -79,17 +82,13 @@ void frmeBayFees::prepareMenus() {
         m_form.mnuHelpSourcesDiv3, m_form.mnuHelpSourcesDiv, m_form.mnuHelpSourcesDiv2}) {
     separator->setSeparator(true);
   }
-  for (std::size_t index = 0; index < m_mnuLang.size(); ++index) {
-    m_mnuLang[index] = m_form.menuLang->addAction(QString());
-    m_mnuLang[index]->setObjectName(QStringLiteral("mnuLang_%1").arg(index));
-    m_mnuLang[index]->setCheckable(true);
-    m_mnuLang[index]->setVisible(false);
-  }
+  for (int index = 0; index < kLanguagePlaces; ++index) addLanguagePlace();
 }
 
 void frmeBayFees::connectMenus() {
   on(m_form.mnuFileNewWindow, &QAction::triggered, &frmeBayFees::mnuFileNewWindow_Click);
   on(m_form.mnuFileExit, &QAction::triggered, &frmeBayFees::mnuFileExit_Click);
+  on(m_form.mnuOptionsSaveSettings, &QAction::triggered, &frmeBayFees::mnuOptionsSaveSettings_Click);
   on(m_form.mnuOptionsOnTop, &QAction::triggered, &frmeBayFees::mnuOptionsOnTop_Click);
   on(m_form.cmdNotepad, &QPushButton::clicked, &frmeBayFees::cmdNotepad_Click);
 }
@@ -104,7 +103,7 @@ void frmeBayFees::disableWhatDoesNothingYet() {
   for (QMenu* menu : {m_form.mnuHelp, m_form.mnuHelpSources}) {
     for (QAction* action : menu->actions()) action->setEnabled(action->menu() != nullptr);
   }
-  for (QAction* action : {m_form.mnuFilePrint, m_form.mnuOptionsSaveSettings}) action->setEnabled(false);
+  m_form.mnuFilePrint->setEnabled(false);
   for (QPushButton* button :
        {m_single.cmdAddRegularToNotes, m_multiple.cmdAddDutchToNotes, m_payment.cmdAddPaymentsToNotes,
         m_form.cmdPrintNotepad, m_form.cmdCopyNotepad, m_form.cmdClearNotepad}) {
@@ -124,12 +123,13 @@ void frmeBayFees::Form_Load() {
     m_regularAuction = std::make_unique<CRegularAuction>(m_surroundings.locale);
     m_dutchAuction = std::make_unique<CDutchAuction>(m_surroundings.locale);
     m_paymentService = std::make_unique<CPaymentService>(m_surroundings.locale);
-    if (m_startStatus && m_startStatus->isFirstRun()) writeFirstRunDefaults();
-    buildLanguageMenu();
+    if (m_startStatus && m_startStatus->isFirstRun()) guarded([this] { writeFirstRunDefaults(); });
+    BuildLanguageMenu();
     captureCaptions();  // before any caption is replaced by its text in the current language
     applyCaptions();
     restoreSettings();
   });
+  m_single.txtStartingPrice->setFocus();
   QMainWindow::show();
 }
 
@@ -148,8 +148,8 @@ void frmeBayFees::Form_Unload() {
   // File > Exit unloads the window, and quitting closes it again.
   if (m_isUnloaded) return;
   m_isUnloaded = true;
-  SaveAppSetting(QStringLiteral("Site"), QString::number(currentSite()));
-  SaveConversionRate();
+  guarded([this] { SaveAppSetting(QStringLiteral("Site"), QString::number(currentSite())); });
+  guarded([this] { SaveConversionRate(); });
   m_site.reset();
   m_dutchAuction.reset();
   m_regularAuction.reset();
@@ -218,16 +218,18 @@ void frmeBayFees::refreshPhotoLists() {
 }
 
 void frmeBayFees::reportError(const QString& description) {
-  // One message for one event, and after it: a message must not open from within a change of focus.
+  // One message for one event.
   if (std::exchange(m_isErrorPending, true)) return;
   const auto tell = [this, description] {
-    m_isErrorPending = false;
     const QString introduction = GetTagString(QStringLiteral(
         "An error has occured in this application.  The application has returned the following "
         "information about this error:<0213>"));
     m_surroundings.messages.showCritical(this, GetTagString(QStringLiteral("Error<0463>")),
                                          introduction + QStringLiteral("\n\n") + description);
+    m_isErrorPending = false;
   };
+  // After the event: a message must not open from within a change of focus. A closing window has no after.
+  if (m_isUnloaded) return tell();
   QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 

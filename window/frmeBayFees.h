@@ -5,6 +5,7 @@
 #include <memory>
 #include <QMainWindow>
 #include <utility>
+#include <vector>
 
 #include "dutch_auction.h"
 #include "multiple_items_tab.h"
@@ -22,6 +23,8 @@
 #include "ui_single_item_tab.h"
 
 class EntryField;
+struct Setting;
+struct SettingAccess;
 
 /// The calculator window. It gathers entries, shows figures and keeps the controls consistent; what a tab
 /// computes is the fee model's (single_item_tab.h,
@@ -29,12 +32,12 @@ class EntryField;
 ///
 /// Which file holds what:
 ///   frmeBayFees.cpp                 loading, unloading, menus File and Options, notepad view, size
-///   frmeBayFees_captions.cpp        texts of the current language, price label
+///   frmeBayFees_captions.cpp        texts of the current language, menu of the languages
 ///   frmeBayFees_entry_fields.cpp    what happens when an entry box changes or is left
 ///   frmeBayFees_lists.cpp           the items of the lists
 ///   frmeBayFees_multiple_items.cpp  the Multiple Items tab
 ///   frmeBayFees_payment.cpp         the Payment Services tab
-///   frmeBayFees_settings.cpp        first-run defaults, restoring, storing
+///   frmeBayFees_settings.cpp        first-run defaults, restoring, saving
 ///   frmeBayFees_single_item.cpp     the Single Item tab
 ///   frmeBayFees_sites.cpp           the auction site: switching it, what depends on it
 ///
@@ -92,8 +95,12 @@ class frmeBayFees : public QMainWindow {
   // Captions (frmeBayFees_captions.cpp)
   void captureCaptions();
   void applyCaptions();
-  void buildLanguageMenu();
-  void choosePriceLabel();
+  void applyBrand();
+  void showTextsOfState();
+  void BuildLanguageMenu();
+  void addLanguagePlace();
+  void showLanguage(int index, const QString& caption, bool isChosen);
+  void mnuLang_Click(int index);
 
   // Entry fields (frmeBayFees_entry_fields.cpp)
   struct EntryRow;
@@ -114,8 +121,16 @@ class frmeBayFees : public QMainWindow {
   void fillLists();
 
   // Settings (frmeBayFees_settings.cpp)
+  [[nodiscard]] std::vector<Setting> settings();
+  SettingAccess siteNumber();
+  SettingAccess keptOnTop();
+  SettingAccess notepadView();
+  SettingAccess creditCard();
+  SettingAccess rateOf(int site);
   void writeFirstRunDefaults();
   void restoreSettings();
+  void settleRestoredWindow();
+  void mnuOptionsSaveSettings_Click();
   [[nodiscard]] QString GetAppSetting(const QString& key);
   void SaveAppSetting(const QString& key, const QString& value);
 
@@ -134,6 +149,8 @@ class frmeBayFees : public QMainWindow {
   void refreshVehicleControls();
   void refreshRealEstateControls();
   void refreshReserveList();
+  void choosePriceLabel();
+  void captionGiftBox();
 
   // Multiple Items tab (frmeBayFees_multiple_items.cpp)
   void connectMultipleItemsTab();
@@ -145,6 +162,8 @@ class frmeBayFees : public QMainWindow {
   void chkDutchGallery_Click();
   void cboTypeOfMultiItemListing_Click();
   void cmdDutchClearAll_Click();
+  void chooseDutchPriceLabel();
+  void captionDutchGiftBox();
 
   // Payment Services tab (frmeBayFees_payment.cpp)
   void connectPaymentTab();
@@ -157,6 +176,8 @@ class frmeBayFees : public QMainWindow {
   void connectSiteMenu();
   void SelectSite(int site);
   void showSite(int site);
+  void showTextsOfSite();
+  void recalculateAllTabs();
   void SaveConversionRate();
   [[nodiscard]] int currentSite() const;
   void refreshSiteFeatures();
@@ -187,7 +208,7 @@ class frmeBayFees : public QMainWindow {
   Ui::MultipleItemsTab m_multiple;
   Ui::PaymentServicesTab m_payment;
   Ui::ShippingTab m_shipping;
-  std::array<QAction*, 11> m_mnuLang{};
+  std::vector<QAction*> m_mnuLang;
   TaggedCaptions m_captions;
   bool m_notepadVisible = false;
   bool m_isUnloaded = false;

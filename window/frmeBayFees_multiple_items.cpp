@@ -81,10 +81,14 @@ void frmeBayFees::showMultipleItemsBoxes(const MultipleItemsBoxes& boxes) {
 }
 
 void frmeBayFees::chkEBayMotorsDutch_Click() {
+  captionDutchGiftBox();
+  DutchCalculate();
+}
+
+void frmeBayFees::captionDutchGiftBox() {
   const bool isMotors = m_multiple.chkEBayMotorsDutch->isChecked();
   m_multiple.chkDutchGreatGift->setText(
       GetTagString(isMotors ? QStringLiteral("Listing Icon<0610>") : QStringLiteral("Gift Services<0611>")));
-  DutchCalculate();
 }
 
 void frmeBayFees::chkDutchGallery_Click() {
@@ -97,11 +101,15 @@ void frmeBayFees::chkDutchGallery_Click() {
 }
 
 void frmeBayFees::cboTypeOfMultiItemListing_Click() {
+  chooseDutchPriceLabel();
+  DutchCalculate();
+}
+
+void frmeBayFees::chooseDutchPriceLabel() {
   constexpr int dutchAuction = 0;
   const bool isAuction = m_multiple.cboTypeOfMultiItemListing->currentIndex() == dutchAuction;
   m_multiple.lblDutchOpeningPrice->setText(GetTagString(
       isAuction ? QStringLiteral("Opening Bid:<0679>") : QStringLiteral("Buy-it-Now Price:<0680>")));
-  DutchCalculate();
 }
 
 // Not everything: two categories, subtitle, listing designer, motors and the lists stay as they are.

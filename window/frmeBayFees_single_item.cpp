@@ -123,10 +123,15 @@ void frmeBayFees::chkMotors_Click() {
   drawConnector(*m_single.linHorizontalLineToVehicle, isMotors);
   drawConnector(*m_single.linVerticalLineToVehicle, isMotors);
   SetRealEstateAvailable(!isMotors);
-  m_single.chkGiftIcon->setText(
-      GetTagString(isMotors ? QStringLiteral("Listing Icon<0616>") : QStringLiteral("Gift Services<0615>")));
+  captionGiftBox();
   UpdateListingFees();
   recalculateSingleItemTab();
+}
+
+void frmeBayFees::captionGiftBox() {
+  const bool isMotors = m_single.chkMotors->isChecked();
+  m_single.chkGiftIcon->setText(
+      GetTagString(isMotors ? QStringLiteral("Listing Icon<0616>") : QStringLiteral("Gift Services<0615>")));
 }
 
 void frmeBayFees::cboSingleItemType_Click() {
@@ -176,4 +181,16 @@ void frmeBayFees::refreshReserveList() {
   constexpr int auction = 0;
   const bool isAuction = m_single.cboSingleItemType->currentIndex() == auction;
   m_single.cboIsReserve->setVisible(isAuction && currentSite() != CAuctionSite::eBayGermany);
+}
+
+void frmeBayFees::choosePriceLabel() {
+  constexpr int auction = 0;
+  constexpr int reserve = 1;
+  QString label = QStringLiteral("Op&ening Bid:<0617>");
+  if (m_single.cboSingleItemType->currentIndex() != auction) {
+    label = QStringLiteral("Buy-it-Now Price:<0678>");
+  } else if (m_single.cboIsReserve->currentIndex() == reserve) {
+    label = QStringLiteral("R&eserve Price:<0618>");
+  }
+  m_single.lblStartingPrice->setText(GetTagString(label));
 }

@@ -49,7 +49,7 @@ void frmeBayFees::connectSiteMenu() {
 // its own tables.
 void frmeBayFees::SelectSite(int site) {
   for (const SiteRow& row : kSites) (m_form.*row.menuItem)->setChecked(false);
-  SaveConversionRate();
+  guarded([this] { SaveConversionRate(); });  // a store that fails does not keep the site
   m_single.chkRealEstate->setChecked(false);
   showSite(site);
   m_payment.lblTreuhandservice->setVisible(site == CAuctionSite::eBayGermany);
@@ -59,10 +59,14 @@ void frmeBayFees::SelectSite(int site) {
   SetRealEstateAvailable(true);
   ShowCurrencyLabels();
   RefreshWindow();
+  recalculateAllTabs();
+  HighlightShippingCountries();
+}
+
+void frmeBayFees::recalculateAllTabs() {
   guarded([this] { recalculateSingleItemTab(); });
   guarded([this] { DutchCalculate(); });
   guarded([this] { CalculatePaymentFees(); });
-  HighlightShippingCountries();
 }
 
 // A site that does not exist changes nothing here: the schedule keeps the one it has.
@@ -72,14 +76,20 @@ void frmeBayFees::showSite(int site) {
   const QString rateKey = QString::fromLatin1(row->rateKey);
   m_site->Site(site);
   (m_form.*row->menuItem)->setChecked(true);
-  setWindowTitle(GetTagString(QString::fromLatin1(row->title)));
+  showTextsOfSite();
   for (QWidget* control :
        std::initializer_list<QWidget*>{m_payment.lblOneDollarEquals, m_payment.txtConversion,
                                        m_payment.lblCurrency14, m_payment.lblCheckRates}) {
     control->setVisible(!rateKey.isEmpty());
   }
-  m_payment.chkInternationalPayPal->setText(GetTagString(QString::fromLatin1(row->internationalBuyer)));
   if (!rateKey.isEmpty()) m_payment.txtConversion->setText(GetAppSetting(rateKey));
+}
+
+void frmeBayFees::showTextsOfSite() {
+  const SiteRow* row = rowOf(currentSite());
+  if (row == nullptr) return;
+  setWindowTitle(GetTagString(QString::fromLatin1(row->title)));
+  m_payment.chkInternationalPayPal->setText(GetTagString(QString::fromLatin1(row->internationalBuyer)));
 }
 
 void frmeBayFees::SaveConversionRate() {

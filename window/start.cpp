@@ -8,16 +8,13 @@
 
 using Localization::GetTagString;
 
-namespace {
-
 // The application's name alone: a display name would be appended to every window title.
-void setApplicationTitle() {
+void Start::setApplicationTitle() {
   QCoreApplication::setApplicationName(GetTagString(QStringLiteral("Tessaloom<5000>")));
 }
 
-}  // namespace
-
-std::unique_ptr<frmeBayFees> Start::Main(const Surroundings& surroundings, LanguageLoader loadLanguage) {
+std::unique_ptr<frmeBayFees> Start::Main(const Surroundings& surroundings,
+                                         const LanguageLoader& loadLanguage) {
   setApplicationTitle();  // messages during the start carry it already
   Localization::NumberFormatKind = Localization::GetNumberFormat(QLocale());
   if (!loadLanguage()) {
@@ -29,6 +26,7 @@ std::unique_ptr<frmeBayFees> Start::Main(const Surroundings& surroundings, Langu
   setApplicationTitle();  // now in the chosen language
   auto startStatus = std::make_shared<CStartStatus>(surroundings.settings);
   auto window = std::make_unique<frmeBayFees>(surroundings);
+  surroundings.brand.Load();
   window->Initialize(std::move(startStatus));
   window->Form_Load();
   return window;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "frmeBayFees.h"
@@ -9,10 +10,13 @@
 namespace Start {
 
 /// Chooses the language and loads its texts; false if not even English can be shown.
-using LanguageLoader = bool (*)();
+using LanguageLoader = std::function<bool()>;
 
 /// Sets up what all windows need and opens the calculator window. If the texts cannot be loaded, says so and
 /// returns nothing: the process has no window and should end.
-std::unique_ptr<frmeBayFees> Main(const Surroundings& surroundings, LanguageLoader loadLanguage);
+std::unique_ptr<frmeBayFees> Main(const Surroundings& surroundings, const LanguageLoader& loadLanguage);
+
+/// Names the application in the current language.
+void setApplicationTitle();
 
 }  // namespace Start

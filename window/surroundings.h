@@ -2,7 +2,9 @@
 
 #include <QString>
 
+#include "custom_brand.h"
 #include "keep_on_top.h"
+#include "language_choice.h"
 #include "message_box.h"
 #include "number_locale.h"
 #include "program_starter.h"
@@ -13,6 +15,8 @@
 struct Surroundings {
   SettingsStore& settings;
   MessageBox& messages;
+  Localization::LanguageChoice& languages;
+  CCustomBrand& brand;
   ProgramStarter& programs;
   KeepOnTop& stacking;
   NumberLocale locale;    ///< how the user writes amounts

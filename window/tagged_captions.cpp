@@ -4,7 +4,9 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QGroupBox>
+#include <QHash>
 #include <QLabel>
+#include <QMenu>
 #include <QTabWidget>
 #include <QWidget>
 
@@ -20,14 +22,29 @@ bool isTagged(const QString& text) {
   return std::all_of(digits.begin(), digits.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 
+/// The entry that opens a menu goes by the menu's name.
+QString nameOf(const QObject& object) {
+  const auto* action = qobject_cast<const QAction*>(&object);
+  return action != nullptr && action->menu() != nullptr ? action->menu()->objectName() : object.objectName();
+}
+
 }  // namespace
 
-void TaggedCaptions::capture(QWidget& form) {
+void TaggedCaptions::capture(QWidget& form, const QStringList& order) {
   m_kept.clear();
   keep(form, "windowTitle", form.windowTitle());
   for (QWidget* widget : form.findChildren<QWidget*>()) captureWidget(*widget);
   // An action makes up a tooltip from its text; only its text is designed.
   for (QAction* action : form.findChildren<QAction*>()) keep(*action, "text", action->text());
+  sort(order);
+}
+
+void TaggedCaptions::sort(const QStringList& order) {
+  QHash<QString, qsizetype> places;
+  for (const QString& name : order) places.insert(name, places.size());
+  const auto placeOf = [&](const Kept& kept) { return places.value(nameOf(*kept.object), order.size()); };
+  std::stable_sort(m_kept.begin(), m_kept.end(),
+                   [&](const Kept& a, const Kept& b) { return placeOf(a) < placeOf(b); });
 }
 
 void TaggedCaptions::captureWidget(QWidget& widget) {

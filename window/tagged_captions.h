@@ -2,7 +2,7 @@
 
 #include <QByteArray>
 #include <QPointer>
-#include <QString>
+#include <QStringList>
 #include <vector>
 
 class QWidget;
@@ -12,9 +12,9 @@ class QWidget;
 /// of language. Texts without a tag are not kept: they are never translated.
 class TaggedCaptions {
  public:
-  /// Keeps the tagged captions, titles, tooltips and accessible names of `form` and all it holds. Once,
-  /// before the first `apply`.
-  void capture(QWidget& form);
+  /// Keeps the tagged captions, titles, tooltips and accessible names of `form` and all it holds: first those
+  /// of the controls named in `order`, in that order, then the others. Once, before the first `apply`.
+  void capture(QWidget& form, const QStringList& order);
 
   /// Sets each kept property to the current language's text.
   void apply() const;
@@ -30,6 +30,7 @@ class TaggedCaptions {
   };
 
   void captureWidget(QWidget& widget);
+  void sort(const QStringList& order);
   void keep(QObject& object, const QByteArray& property, const QString& text, int tab = kNoTab);
 
   std::vector<Kept> m_kept;

@@ -5,3 +5,8 @@ NumberLocale numberLocaleOf(const QLocale& locale) {
           .group = locale.groupSeparator().toStdString(),
           .currency = locale.currencySymbol().toStdString()};
 }
+
+QLocale interfaceLocale() {
+  const QStringList languages = QLocale::system().uiLanguages();
+  return languages.isEmpty() ? QLocale() : QLocale(languages.first());
+}

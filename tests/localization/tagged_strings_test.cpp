@@ -6,8 +6,6 @@
 #include <QStringList>
 #include <stdexcept>
 
-#include "languages.h"
-
 namespace {
 
 using Localization::GetTagString;
@@ -25,7 +23,7 @@ struct FailingResources : Localization::LanguageResources {
 class TaggedStrings : public ::testing::Test {
  protected:
   void SetUp() override {
-    Localization::InitLanguage();
+    Localization::setLanguageObject(nullptr);
     Localization::setDebugLogListener([this](const QString& message) { log << message; });
   }
   void TearDown() override {
@@ -101,14 +99,6 @@ TEST_F(TaggedStrings, ALibraryWithoutTheTextFallsBackToEnglishEntryByEntry) {
 
 TEST_F(TaggedStrings, AFailingLibraryCountsAsOneWithoutTheText) {
   Localization::setLanguageObject(std::make_unique<FailingResources>());
-  EXPECT_EQ(GetTagString(QStringLiteral("Y<0636>")), QStringLiteral("Y"));
-}
-
-TEST_F(TaggedStrings, ChoosingEnglishForgetsTheLibrary) {
-  Localization::setLanguageObject(
-      std::make_unique<MapResources>(QMap<qint32, QString>{{636, QStringLiteral("J")}}));
-  EXPECT_TRUE(Localization::InitLanguage());
-  EXPECT_FALSE(Localization::hasLanguageObject());
   EXPECT_EQ(GetTagString(QStringLiteral("Y<0636>")), QStringLiteral("Y"));
 }
 

@@ -4,20 +4,23 @@
 #include <QCoreApplication>
 #include <QtTest>
 
-#include "languages.h"
+#include "tagged_strings.h"
 
-Calculator::Calculator(NumberLocale locale, int site) : m_site(site) {
-  Localization::InitLanguage();
+Calculator::Calculator(NumberLocale locale, int site)
+    : languages(builtLanguages(settings, messages)), m_site(site) {
+  languages.InitLanguage();
   m_window =
       std::make_unique<frmeBayFees>(Surroundings{.settings = settings,
                                                  .messages = messages,
+                                                 .languages = languages,
+                                                 .brand = brand,
                                                  .programs = starter,
                                                  .stacking = stacking,
                                                  .locale = std::move(locale),
                                                  .programFolder = QCoreApplication::applicationDirPath()});
 }
 
-Calculator::~Calculator() = default;
+Calculator::~Calculator() { Localization::setLanguageObject(nullptr); }
 
 void Calculator::load() {
   m_window->Initialize(std::make_shared<CStartStatus>(settings));
@@ -86,6 +89,24 @@ QString Calculator::shown(const char* control) const {
 
 QStringList Calculator::singleItemFees() const {
   return {shown("txtInsertionFee"), shown("txtExtras"), shown("txtFVF"), shown("txtFees")};
+}
+
+void Calculator::speak(const QString& language) {
+  for (QAction* entry : find<QMenu>("menuLang").actions()) {
+    const bool isEnglish =
+        language == QStringLiteral("English") && entry->objectName() == QStringLiteral("mnuLang_1");
+    if (isEnglish || entry->text() == language) return entry->trigger();
+  }
+  throw std::runtime_error("the menu has no language " + language.toStdString());
+}
+
+Localization::LanguageSurroundings builtLanguages(SettingsStore& settings, MessageBox& messages,
+                                                  const QString& userCode) {
+  return {.settings = settings,
+          .messages = messages,
+          .programFolder = QStringLiteral(LANGUAGE_FOLDER),
+          .programName = QStringLiteral("Tessaloom"),
+          .userCode = userCode};
 }
 
 void letItSettle() {

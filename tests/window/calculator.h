@@ -11,21 +11,28 @@
 /// Stand-ins for everything outside the program, which record what was asked of them.
 struct MemorySettings : SettingsStore {
   QMap<QString, QString> values;
-  QStringList calls;  ///< "read Site", "write Site=1", in order
+  bool isFull = false;  ///< whether nothing can be stored
+  QStringList calls;    ///< "read Site", "write Site=1", in order
 
   QString read(const QString& key) override {
     calls << QStringLiteral("read ") + key;
     return values.value(key);
   }
-  void write(const QString& key, const QString& value) override {
-    calls << QStringLiteral("write ") + key + u'=' + value;
-    values[key] = value;
+  void writeAll(const SettingList& list) override {
+    if (isFull) throw SettingsError("The settings could not be stored in memory.");
+    for (const auto& [key, value] : list) {
+      calls << QStringLiteral("write ") + key + u'=' + value;
+      values[key] = value;
+    }
   }
 };
 
 struct RecordingMessages : MessageBox {
   QList<QPair<QString, QString>> shown;  ///< title, text
 
+  void showPlain(QWidget* /*parent*/, const QString& title, const QString& text) override {
+    shown.append({title, text});
+  }
   void showCritical(QWidget* /*parent*/, const QString& title, const QString& text) override {
     shown.append({title, text});
   }
@@ -62,6 +69,9 @@ class Calculator {
   frmeBayFees& window() { return *m_window; }
   void load();
 
+  /// Chooses the language with that name as the menu does: "English", "German" or "French".
+  void speak(const QString& language);
+
   /// Types over what the box holds, by real keys, and leaves it with Tab.
   void enter(const char* box, const QString& text);
   /// The same without leaving.
@@ -88,11 +98,18 @@ class Calculator {
   RecordingMessages messages;
   RecordingStarter starter;
   RecordingStacking stacking;
+  /// Knows the libraries that the build has made, and a user in the United States.
+  Localization::LanguageChoice languages;
+  CCustomBrand brand{QString()};
 
  private:
   std::unique_ptr<frmeBayFees> m_window;
   int m_site;
 };
+
+/// What a language choice needs, with the libraries that the build has made.
+Localization::LanguageSurroundings builtLanguages(SettingsStore& settings, MessageBox& messages,
+                                                  const QString& userCode = QStringLiteral("409"));
 
 /// Lets queued calls run.
 void letItSettle();

@@ -2,7 +2,7 @@
 #include <QtTest>
 
 #include "calculator.h"
-#include "languages.h"
+
 #include "number_format.h"
 #include "start.h"
 #include "tagged_strings.h"
@@ -14,10 +14,14 @@ struct LoudWindow {
   MemorySettings settings;
   RecordingStarter starter;
   RecordingStacking stacking;
+  Localization::LanguageChoice languages{builtLanguages(settings, messages)};
+  CCustomBrand brand{QString()};
 
   Surroundings surroundings() {
     return {.settings = settings,
             .messages = messages,
+            .languages = languages,
+            .brand = brand,
             .programs = starter,
             .stacking = stacking,
             .locale = kPointLocale,
@@ -26,6 +30,11 @@ struct LoudWindow {
 };
 
 bool failToLoad() { return false; }
+
+bool speakEnglish() {
+  Localization::setLanguageObject(nullptr);
+  return true;
+}
 
 struct GermanTitle : Localization::LanguageResources {
   QString GetResourceString(qint32 id) override {
@@ -47,7 +56,7 @@ class LifeCycleTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void cleanup() { Localization::InitLanguage(); }
+  void cleanup() { Localization::setLanguageObject(nullptr); }
 
   void withoutTextsThereIsOneErrorBoxAndNoWindow() {
     LoudWindow world;
@@ -71,7 +80,7 @@ class LifeCycleTest : public QObject {
 
   void theFirstRunWritesItsDefaultsBeforeAnythingIsRestored() {
     LoudWindow world;
-    const auto window = Start::Main(world.surroundings(), Localization::InitLanguage);
+    const auto window = Start::Main(world.surroundings(), speakEnglish);
     QCOMPARE(world.settings.calls.value(0), QStringLiteral("read Site"));  // is this the first run?
     QCOMPARE(world.settings.calls.value(1), QStringLiteral("write Site=1"));
   }
@@ -79,7 +88,7 @@ class LifeCycleTest : public QObject {
   void aLaterRunWritesNoDefaults() {
     LoudWindow world;
     world.settings.values[QStringLiteral("Site")] = QStringLiteral("1");
-    const auto window = Start::Main(world.surroundings(), Localization::InitLanguage);
+    const auto window = Start::Main(world.surroundings(), speakEnglish);
     for (const QString& call : world.settings.calls) QVERIFY2(!call.startsWith(u"write"), qPrintable(call));
   }
 
@@ -218,7 +227,7 @@ class LifeCycleTest : public QObject {
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Switzerland));
     LoudWindow world;
-    const auto window = Start::Main(world.surroundings(), Localization::InitLanguage);
+    const auto window = Start::Main(world.surroundings(), speakEnglish);
     QLocale::setDefault(before);
     QCOMPARE(CStartStatus::ConvNumFormat(QStringLiteral("1,000")), QStringLiteral("1'000"));
     QCOMPARE(CStartStatus::ConvNumFormat(QStringLiteral("2.1")), QStringLiteral("2.1"));

@@ -164,6 +164,7 @@ class SiteSwitchTest : public QObject {
 
   void theOutgoingRateIsStoredUnderItsOwnKeyFirst() {
     Calculator calculator(kPointLocale, 2);
+    calculator.settings.values[QStringLiteral("Site")] = QStringLiteral("2");
     calculator.settings.values[QStringLiteral("PayPalGermanyRate")] = QStringLiteral("0.9");
     calculator.load();
     calculator.set("txtConversion", QStringLiteral("1.45"));
@@ -175,6 +176,7 @@ class SiteSwitchTest : public QObject {
 
   void anUnsavedRateGivesAnEmptyField() {
     Calculator calculator(kPointLocale, 2);
+    calculator.settings.values[QStringLiteral("Site")] = QStringLiteral("2");  // not the first run
     calculator.load();
     calculator.set("txtConversion", QStringLiteral("1.45"));
     calculator.selectSite(4);

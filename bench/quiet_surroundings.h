@@ -1,0 +1,87 @@
+#pragma once
+
+#include <memory>
+#include <QApplication>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QMap>
+#include <utility>
+
+#include "frmeBayFees.h"
+
+/// Surroundings that cost nothing, so that what is measured is the window itself.
+struct MemorySettings : SettingsStore {
+  QMap<QString, QString> values;
+  QString read(const QString& key) override { return values.value(key); }
+  void writeAll(const SettingList& list) override {
+    for (const auto& [key, value] : list) values[key] = value;
+  }
+};
+
+struct NoMessages : MessageBox {
+  void showPlain(QWidget* /*parent*/, const QString& title, const QString& text) override {
+    qFatal("no message expected: %s, %s", qPrintable(title), qPrintable(text));
+  }
+  void showCritical(QWidget* parent, const QString& title, const QString& text) override {
+    showPlain(parent, title, text);
+  }
+};
+
+struct NoPrograms : ProgramStarter {
+  bool start(const QString& /*path*/) override { return false; }
+};
+
+struct NoStacking : KeepOnTop {
+  void request(QWidget& /*window*/, bool /*onTop*/) override {}
+};
+
+/// The calculator window with entries on all tabs and every box ticked.
+class FilledWindow {
+ public:
+  /// `settings` must outlive it.
+  explicit FilledWindow(SettingsStore& settings)
+      : m_languages({.settings = settings,
+                     .messages = m_messages,
+                     .programFolder = QStringLiteral(LANGUAGE_FOLDER),
+                     .programName = QStringLiteral("Tessaloom"),
+                     .userCode = QStringLiteral("409")}) {
+    m_languages.InitLanguage();
+    m_window = std::make_unique<frmeBayFees>(Surroundings{.settings = settings,
+                                                          .messages = m_messages,
+                                                          .languages = m_languages,
+                                                          .brand = m_brand,
+                                                          .programs = m_programs,
+                                                          .stacking = m_stacking,
+                                                          .locale = {},
+                                                          .programFolder = {}});
+    m_window->Initialize(std::make_shared<CStartStatus>(settings));
+    m_window->Form_Load();
+    fillAllTabs();
+    QApplication::processEvents();
+  }
+
+  [[nodiscard]] QList<QAction*> entriesOf(const char* menu) const {
+    return m_window->findChild<QMenu*>(QString::fromLatin1(menu))->actions();
+  }
+
+ private:
+  void fillAllTabs() {
+    const QList<std::pair<const char*, const char*>> entries{
+        {"txtStartingPrice", "100"},   {"txtPrice", "250"},         {"txtDutchItemsOffered", "10"},
+        {"txtDutchOpeningPrice", "5"}, {"txtDutchItemsSold", "10"}, {"txtDutchFinalPrice", "7"},
+        {"txtPaymentAmount", "1000"}};
+    for (const auto& [name, text] : entries) {
+      m_window->findChild<QLineEdit*>(QString::fromLatin1(name))->setText(QString::fromLatin1(text));
+    }
+    for (QCheckBox* box : m_window->findChildren<QCheckBox*>()) {
+      if (box->isEnabled() && box->objectName() != QStringLiteral("chkDidNotSell")) box->setChecked(true);
+    }
+  }
+
+  NoMessages m_messages;
+  NoPrograms m_programs;
+  NoStacking m_stacking;
+  Localization::LanguageChoice m_languages;
+  CCustomBrand m_brand{QString()};
+  std::unique_ptr<frmeBayFees> m_window;
+};

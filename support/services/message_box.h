@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+/// Tells the user something and waits for OK. `text` is shown as it stands, never as markup; without a
+/// `parent` the message stands alone on the desktop.
+class MessageBox {
+ public:
+  virtual ~MessageBox() = default;
+
+  virtual void showPlain(QWidget* parent, const QString& title, const QString& text) = 0;
+
+  /// With the critical-stop icon.
+  virtual void showCritical(QWidget* parent, const QString& title, const QString& text) = 0;
+};

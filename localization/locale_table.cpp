@@ -20,33 +20,33 @@ constexpr QLatin1StringView kFrench("French");
 constexpr QLatin1StringView kGerman("German");
 
 // clang-format off
-constexpr std::array kLocales{
-    Row{QLatin1StringView("C09"),  kEnglish, QLatin1StringView(" (Australia)"),      QLocale::English, QLocale::Australia},
-    Row{QLatin1StringView("2809"), kEnglish, QLatin1StringView(" (Belize)"),         QLocale::English, QLocale::Belize},
-    Row{QLatin1StringView("1009"), kEnglish, QLatin1StringView(" (Canada)"),         QLocale::English, QLocale::Canada},
+constexpr auto kLocales = std::to_array<Row>({
+    {QLatin1StringView("C09"),  kEnglish, QLatin1StringView(" (Australia)"),      QLocale::English, QLocale::Australia},
+    {QLatin1StringView("2809"), kEnglish, QLatin1StringView(" (Belize)"),         QLocale::English, QLocale::Belize},
+    {QLatin1StringView("1009"), kEnglish, QLatin1StringView(" (Canada)"),         QLocale::English, QLocale::Canada},
     // No desktop but one knows a locale of the whole region.
-    Row{QLatin1StringView("2409"), kEnglish, QLatin1StringView(" (Caribbean)"),      QLocale::English, QLocale::AnyTerritory},
-    Row{QLatin1StringView("1809"), kEnglish, QLatin1StringView(" (Ireland)"),        QLocale::English, QLocale::Ireland},
-    Row{QLatin1StringView("2009"), kEnglish, QLatin1StringView(" (Jamaica)"),        QLocale::English, QLocale::Jamaica},
-    Row{QLatin1StringView("1409"), kEnglish, QLatin1StringView(" (New Zealand)"),    QLocale::English, QLocale::NewZealand},
-    Row{QLatin1StringView("3409"), kEnglish, QLatin1StringView(" (Philippines)"),    QLocale::English, QLocale::Philippines},
-    Row{QLatin1StringView("1C09"), kEnglish, QLatin1StringView(" (South Africa)"),   QLocale::English, QLocale::SouthAfrica},
-    Row{QLatin1StringView("2C09"), kEnglish, QLatin1StringView(" (Trinidad)"),       QLocale::English, QLocale::TrinidadAndTobago},
-    Row{QLatin1StringView("809"),  kEnglish, QLatin1StringView(" (United Kingdom)"), QLocale::English, QLocale::UnitedKingdom},
-    Row{QLatin1StringView("409"),  kEnglish, QLatin1StringView(" (United States)"),  QLocale::English, QLocale::UnitedStates},
-    Row{QLatin1StringView("3009"), kEnglish, QLatin1StringView(" (Zimbabwe)"),       QLocale::English, QLocale::Zimbabwe},
-    Row{QLatin1StringView("80C"),  kFrench,  QLatin1StringView(" (Belgium)"),        QLocale::French,  QLocale::Belgium},
-    Row{QLatin1StringView("C0C"),  kFrench,  QLatin1StringView(" (Canada)"),         QLocale::French,  QLocale::Canada},
-    Row{QLatin1StringView("40C"),  kFrench,  QLatin1StringView(" (France)"),         QLocale::French,  QLocale::France},
-    Row{QLatin1StringView("140C"), kFrench,  QLatin1StringView(" (Luxembourg)"),     QLocale::French,  QLocale::Luxembourg},
-    Row{QLatin1StringView("180C"), kFrench,  QLatin1StringView(" (Monaco)"),         QLocale::French,  QLocale::Monaco},
-    Row{QLatin1StringView("100C"), kFrench,  QLatin1StringView(" (Switzerland)"),    QLocale::French,  QLocale::Switzerland},
-    Row{QLatin1StringView("C07"),  kGerman,  QLatin1StringView(" (Austria)"),        QLocale::German,  QLocale::Austria},
-    Row{QLatin1StringView("1407"), kGerman,  QLatin1StringView(" (Liechtenstein)"),  QLocale::German,  QLocale::Liechtenstein},
-    Row{QLatin1StringView("1007"), kGerman,  QLatin1StringView(" (Luxembourg)"),     QLocale::German,  QLocale::Luxembourg},
-    Row{QLatin1StringView("407"),  kGerman,  QLatin1StringView(" (Germany)"),        QLocale::German,  QLocale::Germany},
-    Row{QLatin1StringView("807"),  kGerman,  QLatin1StringView(" (Switzerland)"),    QLocale::German,  QLocale::Switzerland},
-};
+    {QLatin1StringView("2409"), kEnglish, QLatin1StringView(" (Caribbean)"),      QLocale::English, QLocale::AnyTerritory},
+    {QLatin1StringView("1809"), kEnglish, QLatin1StringView(" (Ireland)"),        QLocale::English, QLocale::Ireland},
+    {QLatin1StringView("2009"), kEnglish, QLatin1StringView(" (Jamaica)"),        QLocale::English, QLocale::Jamaica},
+    {QLatin1StringView("1409"), kEnglish, QLatin1StringView(" (New Zealand)"),    QLocale::English, QLocale::NewZealand},
+    {QLatin1StringView("3409"), kEnglish, QLatin1StringView(" (Philippines)"),    QLocale::English, QLocale::Philippines},
+    {QLatin1StringView("1C09"), kEnglish, QLatin1StringView(" (South Africa)"),   QLocale::English, QLocale::SouthAfrica},
+    {QLatin1StringView("2C09"), kEnglish, QLatin1StringView(" (Trinidad)"),       QLocale::English, QLocale::TrinidadAndTobago},
+    {QLatin1StringView("809"),  kEnglish, QLatin1StringView(" (United Kingdom)"), QLocale::English, QLocale::UnitedKingdom},
+    {QLatin1StringView("409"),  kEnglish, QLatin1StringView(" (United States)"),  QLocale::English, QLocale::UnitedStates},
+    {QLatin1StringView("3009"), kEnglish, QLatin1StringView(" (Zimbabwe)"),       QLocale::English, QLocale::Zimbabwe},
+    {QLatin1StringView("80C"),  kFrench,  QLatin1StringView(" (Belgium)"),        QLocale::French,  QLocale::Belgium},
+    {QLatin1StringView("C0C"),  kFrench,  QLatin1StringView(" (Canada)"),         QLocale::French,  QLocale::Canada},
+    {QLatin1StringView("40C"),  kFrench,  QLatin1StringView(" (France)"),         QLocale::French,  QLocale::France},
+    {QLatin1StringView("140C"), kFrench,  QLatin1StringView(" (Luxembourg)"),     QLocale::French,  QLocale::Luxembourg},
+    {QLatin1StringView("180C"), kFrench,  QLatin1StringView(" (Monaco)"),         QLocale::French,  QLocale::Monaco},
+    {QLatin1StringView("100C"), kFrench,  QLatin1StringView(" (Switzerland)"),    QLocale::French,  QLocale::Switzerland},
+    {QLatin1StringView("C07"),  kGerman,  QLatin1StringView(" (Austria)"),        QLocale::German,  QLocale::Austria},
+    {QLatin1StringView("1407"), kGerman,  QLatin1StringView(" (Liechtenstein)"),  QLocale::German,  QLocale::Liechtenstein},
+    {QLatin1StringView("1007"), kGerman,  QLatin1StringView(" (Luxembourg)"),     QLocale::German,  QLocale::Luxembourg},
+    {QLatin1StringView("407"),  kGerman,  QLatin1StringView(" (Germany)"),        QLocale::German,  QLocale::Germany},
+    {QLatin1StringView("807"),  kGerman,  QLatin1StringView(" (Switzerland)"),    QLocale::German,  QLocale::Switzerland},
+});
 // clang-format on
 
 }  // namespace

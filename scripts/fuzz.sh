@@ -17,11 +17,25 @@ mapfile -t targets < <(find build/fuzz/fuzz -maxdepth 1 -type f -name '*_fuzz' -
   echo "There is no fuzz target in build/fuzz/fuzz." >&2
   exit 1
 }
+# All at once: together they take as long as one.
+pids=()
 for target in "${targets[@]}"; do
   name=$(basename "$target" _fuzz)
-  corpus=$work/$name
-  mkdir "$corpus"
-  cp -r "fuzz/corpus/$name/." "$corpus"
-  echo "$name: $seconds seconds"
-  "$target" -max_total_time="$seconds" -print_final_stats=1 -verbosity=0 -artifact_prefix=build/fuzz/findings/ "$corpus"
+  cp -r "fuzz/corpus/$name" "$work/$name"
+  "$target" -max_total_time="$seconds" -print_final_stats=1 -verbosity=0 -artifact_prefix=build/fuzz/findings/ \
+    "$work/$name" > "$work/$name.log" 2>&1 &
+  pids+=($!)
 done
+
+status=0
+for at in "${!targets[@]}"; do
+  name=$(basename "${targets[at]}" _fuzz)
+  if wait "${pids[at]}"; then
+    echo "$name: $seconds seconds, $(grep number_of_executed_units "$work/$name.log" | grep -o '[0-9]*$') inputs, no finding"
+  else
+    echo "$name: a finding" >&2
+    cat "$work/$name.log" >&2
+    status=1
+  fi
+done
+exit "$status"

@@ -1,8 +1,10 @@
 #include "caption_order.h"
 
+#include <array>
+
 QStringList captionOrder() {
   // clang-format off
-  static constexpr const char* names[] = {
+  constexpr auto names = std::to_array<const char*>({
       // Menus
       "mnuFile", "mnuFileExit", "mnuFileNewWindow", "mnuFilePrint", "menuLang", "mnuHelp", "mnuHelpAbout",
       "mnuHelpBillpointUK", "mnuHelpBillpointUS", "mnuHelpContents", "mnuHelpFeedback", "mnuHelpHomepage",
@@ -48,7 +50,7 @@ QStringList captionOrder() {
       "cmdAddDutchToNotes", "cmdAddPaymentsToNotes", "cmdAddRegularToNotes", "cmdCalculate",
       "cmdCalculatePaymentFees", "cmdClearAll", "cmdClearNotepad", "cmdClearPaymentFees", "cmdCopyNotepad",
       "cmdDutchCalculate", "cmdDutchClearAll", "cmdNotepad", "cmdPrintNotepad",
-  };
+  });
   // clang-format on
   QStringList order;
   for (const char* name : names) order << QString::fromLatin1(name);

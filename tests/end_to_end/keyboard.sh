@@ -1,9 +1,16 @@
 # shellcheck shell=bash
-# Sourced by the end-to-end session: the verbs of a user who has a keyboard and eyes, but no mouse. Each fails
+# Sourced by the end-to-end sessions: the verbs of a user who has a keyboard and eyes, but no mouse. Each fails
 # with the step at which it happened.
 
-program_pid= # of the program under test
+# shellcheck source=scripts/virtual_display.sh
+source "$(dirname "${BASH_SOURCE[0]}")/../../scripts/virtual_display.sh"
+
+program=     # under test
+program_pid= # its process
 window=      # its id on the display
+folder=      # of this session: settings and logs
+pictures=    # where what was seen is kept
+picture=     # the name of this session's
 
 # The controls of the Single Item tab in the order of the Tab key, then the notepad's, then the row of tabs.
 TAB_ORDER=(
@@ -28,6 +35,59 @@ fail() {
   echo "FAILED at \"$STEP\": $1" >&2
   return 1
 }
+
+# begin_session PROGRAM PICTURES NAME: a display, a keyboard and settings of its own.
+begin_session() {
+  local tool
+  program=$1
+  pictures=$2
+  picture=$3
+  for tool in Xvfb openbox xdotool xprop xclip import; do
+    command -v "$tool" > /dev/null || fail "the test needs $tool" || exit
+  done
+  folder=$(mktemp -d)
+  trap clean_up EXIT
+  mkdir -p "$pictures"
+  rm -f "$pictures/$picture"{,_failure}.png
+  start_virtual_display "$folder"
+}
+
+clean_up() {
+  local status=$?
+  if ((status != 0)); then
+    [[ -z ${DISPLAY-} ]] || grab root "$pictures/${picture}_failure.png" || true
+    cat "$folder/program.log" >&2 || true
+  fi
+  [[ -z $program_pid ]] || kill "$program_pid" 2> /dev/null || true
+  stop_virtual_display
+  rm -rf "$folder"
+  exit "$status"
+}
+
+# start_program TITLE: and waits for its window.
+start_program() {
+  "$program" > "$folder/program.log" 2>&1 &
+  program_pid=$!
+  window=$(visible_window Tessaloom "$program_pid") || fail "no window appeared" || return
+  until_true 20 is_active || fail "the window did not become active" || return
+  expect_title "$1"
+}
+
+has_title() { [[ $(xdotool getwindowname "$window") == "$1" ]]; }
+
+expect_title() { until_true 20 has_title "$1" || fail "the window's title is \"$(xdotool getwindowname "$window")\""; }
+
+# end_program: by the keyboard.
+end_program() {
+  local status=0
+  press ctrl+q
+  until_true 30 has_ended || fail "the program did not end" || return
+  wait "$program_pid" || status=$?
+  program_pid=
+  ((status == 0)) || fail "the program ended with status $status"
+}
+
+keep_picture() { save_screenshot "$window" "$pictures/$picture.png" || fail "no picture could be taken"; }
 
 is_running() { kill -0 "$program_pid" 2> /dev/null; }
 
@@ -129,6 +189,8 @@ window_height() { xdotool getwindowgeometry --shell "$window" | sed -n 's/^HEIGH
 is_higher_than() { (($(window_height) > $1)); }
 is_as_high_as() { (($(window_height) == $1)); }
 
-is_stored() { grep -qx "$1" "$XDG_CONFIG_HOME/Ostrevane/Tessaloom.conf" 2> /dev/null; }
+store() { echo "$XDG_CONFIG_HOME/Ostrevane/Tessaloom.conf"; }
+
+is_stored() { grep -qx "$1" "$(store)" 2> /dev/null; }
 
 has_ended() { ! is_running; }

@@ -3,41 +3,12 @@
 # and with settings of its own. Keeps pictures in FOLDER. Figures are worked out from the schedule of eBay.com.
 set -euo pipefail
 here=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
-# shellcheck source=scripts/virtual_display.sh
-source "$here/../../scripts/virtual_display.sh"
 # shellcheck source=tests/end_to_end/keyboard.sh
 source "$here/keyboard.sh"
-
-program=$1
-pictures=$2
-for tool in Xvfb openbox xdotool xprop xclip import; do
-  command -v "$tool" > /dev/null || fail "the test needs $tool"
-done
-
-folder=$(mktemp -d)
-clean_up() {
-  local status=$?
-  if ((status != 0)); then
-    [[ -z ${DISPLAY-} ]] || grab root "$pictures/failure.png" || true
-    cat "$folder/program.log" >&2 || true
-  fi
-  [[ -z $program_pid ]] || kill "$program_pid" 2> /dev/null || true
-  stop_virtual_display
-  rm -rf "$folder"
-  exit "$status"
-}
-trap clean_up EXIT
-mkdir -p "$pictures"
-rm -f "$pictures"/{session,failure}.png
+begin_session "$1" "$2" session
 
 step "start on a machine that has no settings yet"
-start_virtual_display "$folder"
-"$program" > "$folder/program.log" 2>&1 &
-program_pid=$!
-window=$(visible_window Tessaloom "$program_pid") || fail "no window appeared"
-until_true 20 is_active || fail "the window did not become active"
-[[ $(xdotool getwindowname "$window") == "Tessaloom for eBay.com" ]] ||
-  fail "the window's title is \"$(xdotool getwindowname "$window")\""
+start_program "Tessaloom for eBay.com"
 until_true 20 is_stored Site=1 || fail "the first start stored no site"
 
 step "an auction from 9.99 that closes at 25.00"
@@ -50,7 +21,7 @@ step "Gallery"
 switch chkGallery
 reachable chkGalleryFeatured
 expect_figures 0.35 0.25 1.31 1.91
-save_screenshot "$window" "$pictures/session.png" || fail "no picture could be taken"
+keep_picture
 
 step "Bold in two categories"
 switch chkBold
@@ -169,14 +140,9 @@ until_true 20 is_not_on_top || fail "the window is still on top"
 expect txtFees 1.91
 
 step "File > Exit stores the site"
-sed -i 's/^Site=1$/Site=3/' "$XDG_CONFIG_HOME/Ostrevane/Tessaloom.conf" # as another window might have done
+sed -i 's/^Site=1$/Site=3/' "$(store)" # as another window might have done
 is_stored Site=3 || fail "the settings store could not be prepared"
-press ctrl+q
-until_true 30 has_ended || fail "the program did not end"
-status=0
-wait "$program_pid" || status=$?
-program_pid=
-((status == 0)) || fail "the program ended with status $status"
+end_program
 is_stored Site=1 || fail "Site=1 does not stand in the settings store"
 
 step "done"

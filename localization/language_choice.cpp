@@ -1,5 +1,6 @@
 #include "language_choice.h"
 
+#include <algorithm>
 #include <QDir>
 
 #include "language_library.h"
@@ -113,12 +114,12 @@ void LanguageChoice::useLibraryFor(const LanguageInfo& candidate) {
 }
 
 bool LanguageChoice::FindLanguageLibrary() {
-  for (const LanguageInfo& language : m_languages) {
-    if (language.Code != m_currentLanguage.Code) continue;
-    m_currentLanguage.LibraryPath = language.LibraryPath;
-    return true;
-  }
-  return false;
+  const auto language =
+      std::find_if(m_languages.cbegin(), m_languages.cend(),
+                   [this](const LanguageInfo& each) { return each.Code == m_currentLanguage.Code; });
+  if (language == m_languages.cend()) return false;
+  m_currentLanguage.LibraryPath = language->LibraryPath;
+  return true;
 }
 
 void LanguageChoice::loadCurrentLibrary() {

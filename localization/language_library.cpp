@@ -18,8 +18,8 @@ class LanguageLibrary : public LanguageResources {
   explicit LanguageLibrary(QByteArray bytes) : m_bytes(std::move(bytes)) {}
 
   bool load() {
-    return m_translator.load(reinterpret_cast<const uchar*>(m_bytes.constData()),
-                             static_cast<int>(m_bytes.size()));
+    const void* bytes = m_bytes.constData();
+    return m_translator.load(static_cast<const uchar*>(bytes), static_cast<int>(m_bytes.size()));
   }
 
   QString GetResourceString(qint32 id) override {

@@ -1,6 +1,7 @@
 #include "translation_file.h"
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <optional>
 #include <QtEndian>
@@ -14,8 +15,12 @@ constexpr std::string_view kMagic("\x3c\xb8\x64\x18\xca\xef\x9c\x95\xcd\x21\x1c\
 
 // The sections of a file, and the parts of a message. A file that names further files to be loaded
 // (0x96), or that has parts from before Unicode, is none of ours.
-enum Section : quint8 { kHashes = 0x42, kMessages = 0x69, kNumerusRules = 0x88, kLanguage = 0xa7 };
-enum Part : quint8 { kEnd = 1, kTranslation = 3, kSourceText = 6, kContext = 7, kComment = 8 };
+constexpr quint8 kHashes = 0x42;
+constexpr quint8 kMessages = 0x69;
+constexpr std::array<quint8, 4> kSections{kHashes, kMessages, 0x88 /* plural rules */, 0xa7 /* language */};
+constexpr quint8 kEnd = 1;
+constexpr quint8 kTranslation = 3;
+constexpr std::array<quint8, 4> kParts{kTranslation, 6 /* source text */, 7 /* context */, 8 /* comment */};
 
 /// Reads big-endian numbers and blocks; knows nothing once it has run over the end.
 class Reader {
@@ -51,6 +56,10 @@ class Reader {
   std::string_view m_rest;
 };
 
+bool isOneOf(const std::array<quint8, 4>& tags, quint8 tag) {
+  return std::find(tags.begin(), tags.end(), tag) != tags.end();
+}
+
 /// Each section once.
 std::optional<std::map<quint8, std::string_view>> sectionsOf(std::string_view file) {
   std::map<quint8, std::string_view> sections;
@@ -58,22 +67,21 @@ std::optional<std::map<quint8, std::string_view>> sectionsOf(std::string_view fi
   while (!reader.atEnd()) {
     const auto tag = reader.byte();
     const auto content = reader.block();
-    const bool isKnown = tag == kHashes || tag == kMessages || tag == kNumerusRules || tag == kLanguage;
-    if (!isKnown || !content || content->empty() || !sections.emplace(*tag, *content).second)
-      return std::nullopt;
+    if (!tag || !isOneOf(kSections, *tag)) return std::nullopt;
+    if (!content || content->empty() || !sections.emplace(*tag, *content).second) return std::nullopt;
   }
   return sections;
 }
 
 /// Reads one message up to its end.
 bool skipMessage(Reader& reader) {
-  for (auto part = reader.byte(); part != kEnd; part = reader.byte()) {
-    if (part != kTranslation && part != kSourceText && part != kContext && part != kComment) return false;
+  for (auto part = reader.byte(); part; part = reader.byte()) {
+    if (*part == kEnd) return true;
     const auto text = reader.block();
-    const bool isWholeText = text && (part != kTranslation || text->size() % sizeof(char16_t) == 0);
-    if (!isWholeText) return false;
+    if (!isOneOf(kParts, *part) || !text) return false;
+    if (*part == kTranslation && text->size() % sizeof(char16_t) != 0) return false;
   }
-  return true;
+  return false;
 }
 
 /// Where the messages start that follow one another in the section; nothing if one is broken.

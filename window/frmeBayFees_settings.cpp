@@ -6,6 +6,7 @@
 
 // One table of all keys, in the order of the first-run defaults, which three loops go through: the defaults,
 // saving and restoring. Rows of the same step keep the table's order.
+// NOLINTNEXTLINE(readability-function-size): a table
 std::vector<Setting> frmeBayFees::settings() {
   const QString isOff = QStringLiteral("0");
   const QString first = QStringLiteral("0");

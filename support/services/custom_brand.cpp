@@ -45,8 +45,8 @@ QByteArray readableBytes(QIODevice& file) {
 
 }  // namespace
 
-CCustomBrand::CCustomBrand(QString programFolder)
-    : m_path(QDir(std::move(programFolder)).filePath(QStringLiteral("AppData"))) {
+CCustomBrand::CCustomBrand(const QString& programFolder)
+    : m_path(QDir(programFolder).filePath(QStringLiteral("AppData"))) {
   for (const BrandRow& row : kRows) m_values.*row.value = QString::fromLatin1(row.makers);
 }
 

@@ -19,7 +19,7 @@ struct BrandValues {
 /// with one, a value that it lacks is empty. Checks no value: whoever opens an address must.
 class CCustomBrand {
  public:
-  explicit CCustomBrand(QString programFolder);
+  explicit CCustomBrand(const QString& programFolder);
 
   /// Reads the file and takes over what it says. Never fails: what cannot be read counts as no file.
   void Load();

@@ -1,34 +1,65 @@
 #include "settings_store.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QTemporaryFile>
 
 namespace {
 
 const QString kOrganization = QStringLiteral("Ostrevane");
 const QString kApplication = QStringLiteral("Tessaloom");
 
+/// No less than the file's size will be once the values are in it: a character may be escaped by six.
+qsizetype largestSizeWith(const QString& path, const QMap<QString, QString>& values) {
+  constexpr qsizetype escaped = 6;
+  constexpr qsizetype around = 16;
+  qsizetype size = QFileInfo(path).size() + around;
+  for (auto value = values.cbegin(); value != values.cend(); ++value)
+    size += escaped * (value.key().size() + value.value().size()) + around;
+  return size;
+}
+
+/// Whether a file of that size can be written beside `path`. QSettings takes a write that stops half-way on a
+/// full disk for a whole one, and puts it in the place of the good file.
+bool isRoomFor(qsizetype size, const QString& path) {
+  const QFileInfo file(path);
+  if (!QDir().mkpath(file.path())) return false;
+  QTemporaryFile probe(path + QStringLiteral(".XXXXXX"));
+  return probe.open() && probe.write(QByteArray(size, ' ')) == size && probe.flush();
+}
+
+SettingsError notStoredIn(const QSettings& settings) {
+  return SettingsError("The settings could not be stored in " + settings.fileName().toStdString() + ".");
+}
+
 }  // namespace
 
 UserSettings::UserSettings()
     : m_settings(QSettings::NativeFormat, QSettings::UserScope, kOrganization, kApplication) {
-  // Only what was understood will be written again.
+  // Only what was understood will be written again. The file is read when its keys are asked for.
+  m_settings.allKeys();
   if (m_settings.status() == QSettings::FormatError) {
     QFile::copy(m_settings.fileName(), m_settings.fileName() + QStringLiteral(".damaged"));
   }
 }
 
 QString UserSettings::read(const QString& key) {
+  if (const auto unstored = m_unstored.constFind(key); unstored != m_unstored.cend()) return *unstored;
   m_settings.sync();
   // A text with a comma that somebody wrote into the file by hand, without quotes, comes as a list.
   return m_settings.value(key).toStringList().join(u',');
 }
 
 void UserSettings::writeAll(const SettingList& values) {
-  // Its own object, on the same values: the status of one that failed once never becomes good again.
+  for (const auto& [key, value] : values) m_unstored[key] = value;
+  // Its own object, on the same file: the status of one that failed once never becomes good again.
   QSettings settings(QSettings::NativeFormat, QSettings::UserScope, kOrganization, kApplication);
-  for (const auto& [key, value] : values) settings.setValue(key, value);
+  if (!isRoomFor(largestSizeWith(settings.fileName(), m_unstored), settings.fileName()))
+    throw notStoredIn(settings);
+  for (auto value = m_unstored.cbegin(); value != m_unstored.cend(); ++value)
+    settings.setValue(value.key(), value.value());
   settings.sync();
-  if (settings.status() == QSettings::AccessError) {
-    throw SettingsError("The settings could not be stored in " + settings.fileName().toStdString() + ".");
-  }
+  if (settings.status() == QSettings::AccessError) throw notStoredIn(settings);
+  m_unstored.clear();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QMap>
 #include <QPair>
 #include <QSettings>
 #include <QString>
@@ -42,4 +43,5 @@ class UserSettings : public SettingsStore {
 
  private:
   QSettings m_settings;
+  QMap<QString, QString> m_unstored;  ///< what could not be stored yet
 };

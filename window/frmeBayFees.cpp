@@ -60,6 +60,8 @@ void frmeBayFees::prepareLayout() {
   m_form.centralWidget->installEventFilter(this);
   useFontIfInstalled(*m_form.centralWidget, QStringLiteral("Tahoma"));
   useFontIfInstalled(*m_form.txtNotes, QStringLiteral("Verdana"));
+  // The items of a list change their widths with the language.
+  for (QComboBox* list : findChildren<QComboBox*>()) list->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   // What comes and goes with a choice keeps its place, so that nothing else moves.
   for (QWidget* control : std::initializer_list<QWidget*>{
            m_single.cboIsReserve, m_single.optMotorcycle, m_single.optOtherVehicle,
@@ -220,17 +222,22 @@ void frmeBayFees::refreshPhotoLists() {
 void frmeBayFees::reportError(const QString& description) {
   // One message for one event.
   if (std::exchange(m_isErrorPending, true)) return;
-  const auto tell = [this, description] {
-    const QString introduction = GetTagString(QStringLiteral(
-        "An error has occured in this application.  The application has returned the following "
-        "information about this error:<0213>"));
-    m_surroundings.messages.showCritical(this, GetTagString(QStringLiteral("Error<0463>")),
-                                         introduction + QStringLiteral("\n\n") + description);
+  // A closing window has no after, and its closing is its last event.
+  if (m_isUnloaded) return tellError(description);
+  // After the event: a message must not open from within a change of focus.
+  const auto tellLater = [this, description] {
     m_isErrorPending = false;
+    tellError(description);
   };
-  // After the event: a message must not open from within a change of focus. A closing window has no after.
-  if (m_isUnloaded) return tell();
-  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, tellLater, Qt::QueuedConnection);
+}
+
+void frmeBayFees::tellError(const QString& description) {
+  const QString introduction = GetTagString(
+      QStringLiteral("An error has occured in this application.  The application has returned the following "
+                     "information about this error:<0213>"));
+  m_surroundings.messages.showCritical(this, GetTagString(QStringLiteral("Error<0463>")),
+                                       introduction + QStringLiteral("\n\n") + description);
 }
 
 void frmeBayFees::onChosen(std::initializer_list<QRadioButton*> options, void (frmeBayFees::*handler)()) {

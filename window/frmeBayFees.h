@@ -190,6 +190,7 @@ class frmeBayFees : public QMainWindow {
   template <typename Handler>
   void guarded(Handler&& handler) noexcept;
   void reportError(const QString& description);
+  void tellError(const QString& description);
   /// Connects a signal to a guarded member, whatever the signal carries.
   template <typename Sender, typename Signal>
   void on(Sender* sender, Signal signal, void (frmeBayFees::*handler)());

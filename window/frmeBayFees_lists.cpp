@@ -14,6 +14,8 @@ void fill(QComboBox& list, const QStringList& items) {
   list.clear();
   list.addItems(items);
   list.setCurrentIndex(chosen);
+  // By itself a list keeps to the least width that its first items needed.
+  list.setMinimumWidth(list.sizeHint().width());
 }
 
 }  // namespace

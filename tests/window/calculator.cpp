@@ -6,8 +6,19 @@
 
 #include "tagged_strings.h"
 
-Calculator::Calculator(NumberLocale locale, int site)
-    : languages(builtLanguages(settings, messages)), m_site(site) {
+namespace {
+
+Localization::LanguageSurroundings languagesIn(QString folder, SettingsStore& settings,
+                                               MessageBox& messages) {
+  Localization::LanguageSurroundings surroundings = builtLanguages(settings, messages);
+  surroundings.programFolder = std::move(folder);
+  return surroundings;
+}
+
+}  // namespace
+
+Calculator::Calculator(NumberLocale locale, int site, QString languageFolder)
+    : languages(languagesIn(std::move(languageFolder), settings, messages)), m_site(site) {
   languages.InitLanguage();
   m_window =
       std::make_unique<frmeBayFees>(Surroundings{.settings = settings,

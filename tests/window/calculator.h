@@ -19,11 +19,10 @@ struct MemorySettings : SettingsStore {
     return values.value(key);
   }
   void writeAll(const SettingList& list) override {
+    // Like the real store, a full one knows for this process what it could not keep.
+    for (const auto& [key, value] : list) values[key] = value;
     if (isFull) throw SettingsError("The settings could not be stored in memory.");
-    for (const auto& [key, value] : list) {
-      calls << QStringLiteral("write ") + key + u'=' + value;
-      values[key] = value;
-    }
+    for (const auto& [key, value] : list) calls << QStringLiteral("write ") + key + u'=' + value;
   }
 };
 
@@ -62,7 +61,9 @@ inline const NumberLocale kFrenchLocale{",", "\u202F", "€"};
 /// which is not there throws, with the name.
 class Calculator {
  public:
-  explicit Calculator(NumberLocale locale = kPointLocale, int site = 1);
+  /// `languageFolder` is where the language libraries lie.
+  explicit Calculator(NumberLocale locale = kPointLocale, int site = 1,
+                      QString languageFolder = QStringLiteral(LANGUAGE_FOLDER));
   ~Calculator();
 
   /// The window as it stands before it is loaded; `load` shows it.
@@ -98,7 +99,7 @@ class Calculator {
   RecordingMessages messages;
   RecordingStarter starter;
   RecordingStacking stacking;
-  /// Knows the libraries that the build has made, and a user in the United States.
+  /// Knows a user in the United States.
   Localization::LanguageChoice languages;
   CCustomBrand brand{QString()};
 

@@ -4,8 +4,8 @@
 
 #include "custom_brand.h"
 
-// Any bytes as a branding file. What must hold of its text and of every value in it: no line break, and no value
-// that reaches beyond the last position, or that contains its own name.
+// Any bytes as a branding file. What must hold of its text and of every value in it: no line break, and no
+// value that reaches beyond the last position, or that contains its own name.
 
 namespace {
 
@@ -21,8 +21,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   file.open(QIODevice::ReadOnly);
   const QString text = CCustomBrand::textOf(file);
   require(!text.contains(u'\r') && !text.contains(u'\n'));
-  for (const char* name :
-       {"CompanyName", "CompanyURL", "SupportEmail", "SupportURL", "SubscribeEmail", "ErrorReportEmail", ""}) {
+  for (const char* name : {"CompanyName", "CompanyURL", "SupportEmail", "SupportURL", "SubscribeEmail",
+                           "ErrorReportEmail", ""}) {
     const QString value = CCustomBrand::GetValue(text, QString::fromLatin1(name));
     require(value.size() < 32767);
     require(value.isEmpty() || text.contains(value));

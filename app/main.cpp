@@ -32,12 +32,16 @@ int main(int argc, char* argv[]) {
   CCustomBrand brand(programFolder);
   DetachedProgramStarter programs;
   WindowFlagKeepOnTop stacking;
+  SystemPrinter printer;
+  SystemClock clock;
   const Surroundings surroundings{.settings = settings,
                                   .messages = messages,
                                   .languages = languages,
                                   .brand = brand,
                                   .programs = programs,
                                   .stacking = stacking,
+                                  .printer = printer,
+                                  .clock = clock,
                                   .locale = numberLocaleOf(QLocale()),
                                   .programFolder = programFolder};
   const auto window = Start::Main(surroundings, [&] { return languages.InitLanguage(); });

@@ -35,6 +35,12 @@ struct NoStacking : KeepOnTop {
   void request(QWidget& /*window*/, bool /*onTop*/) override {}
 };
 
+struct NoPrinter : NotePrinter {
+  std::unique_ptr<PageSurface> open(QWidget* /*parent*/, const QString& /*title*/) override {
+    return nullptr;
+  }
+};
+
 /// The calculator window with entries on all tabs and every box ticked.
 class FilledWindow {
  public:
@@ -52,6 +58,8 @@ class FilledWindow {
                                                           .brand = m_brand,
                                                           .programs = m_programs,
                                                           .stacking = m_stacking,
+                                                          .printer = m_printer,
+                                                          .clock = m_clock,
                                                           .locale = {},
                                                           .programFolder = {}});
     m_window->Initialize(std::make_shared<CStartStatus>(settings));
@@ -62,6 +70,10 @@ class FilledWindow {
 
   [[nodiscard]] QList<QAction*> entriesOf(const char* menu) const {
     return m_window->findChild<QMenu*>(QString::fromLatin1(menu))->actions();
+  }
+
+  void push(const char* button) const {
+    m_window->findChild<QPushButton*>(QString::fromLatin1(button))->click();
   }
 
  private:
@@ -81,6 +93,8 @@ class FilledWindow {
   NoMessages m_messages;
   NoPrograms m_programs;
   NoStacking m_stacking;
+  NoPrinter m_printer;
+  SystemClock m_clock;
   Localization::LanguageChoice m_languages;
   CCustomBrand m_brand{QString()};
   std::unique_ptr<frmeBayFees> m_window;

@@ -92,24 +92,18 @@ void frmeBayFees::connectMenus() {
   on(m_form.mnuFileExit, &QAction::triggered, &frmeBayFees::mnuFileExit_Click);
   on(m_form.mnuOptionsSaveSettings, &QAction::triggered, &frmeBayFees::mnuOptionsSaveSettings_Click);
   on(m_form.mnuOptionsOnTop, &QAction::triggered, &frmeBayFees::mnuOptionsOnTop_Click);
-  on(m_form.cmdNotepad, &QPushButton::clicked, &frmeBayFees::cmdNotepad_Click);
 }
 
 void frmeBayFees::connectTabs() {
   connectSingleItemTab();
   connectMultipleItemsTab();
   connectPaymentTab();
+  connectNotepad();
 }
 
 void frmeBayFees::disableWhatDoesNothingYet() {
   for (QMenu* menu : {m_form.mnuHelp, m_form.mnuHelpSources}) {
     for (QAction* action : menu->actions()) action->setEnabled(action->menu() != nullptr);
-  }
-  m_form.mnuFilePrint->setEnabled(false);
-  for (QPushButton* button :
-       {m_single.cmdAddRegularToNotes, m_multiple.cmdAddDutchToNotes, m_payment.cmdAddPaymentsToNotes,
-        m_form.cmdPrintNotepad, m_form.cmdCopyNotepad, m_form.cmdClearNotepad}) {
-    button->setEnabled(false);
   }
 }
 
@@ -125,6 +119,7 @@ void frmeBayFees::Form_Load() {
     m_regularAuction = std::make_unique<CRegularAuction>(m_surroundings.locale);
     m_dutchAuction = std::make_unique<CDutchAuction>(m_surroundings.locale);
     m_paymentService = std::make_unique<CPaymentService>(m_surroundings.locale);
+    m_notes = std::make_unique<CNotes>();
     if (m_startStatus && m_startStatus->isFirstRun()) guarded([this] { writeFirstRunDefaults(); });
     BuildLanguageMenu();
     captureCaptions();  // before any caption is replaced by its text in the current language
@@ -157,6 +152,7 @@ void frmeBayFees::Form_Unload() {
   m_regularAuction.reset();
   m_paymentService.reset();
   m_startStatus.reset();
+  m_notes.reset();
 }
 
 void frmeBayFees::mnuFileNewWindow_Click() {
@@ -175,11 +171,6 @@ void frmeBayFees::mnuOptionsOnTop_Click() {
   m_surroundings.stacking.request(*this, m_form.mnuOptionsOnTop->isChecked());
 }
 
-void frmeBayFees::cmdNotepad_Click() {
-  m_notepadVisible = !m_notepadVisible;
-  RefreshWindow();
-}
-
 // The order matters: the site's rules have the last word on the reserve list.
 void frmeBayFees::RefreshWindow() {
   refreshVehicleControls();
@@ -188,16 +179,6 @@ void frmeBayFees::RefreshWindow() {
   refreshSiteFeatures();
   refreshNotepad();
   refreshPhotoLists();
-}
-
-void frmeBayFees::refreshNotepad() {
-  m_form.cmdNotepad->setText(GetTagString(m_notepadVisible ? QStringLiteral("hide notepad<0628>")
-                                                           : QStringLiteral("view notepad<0629>")));
-  for (QWidget* control : std::initializer_list<QWidget*>{m_form.txtNotes, m_form.cmdClearNotepad,
-                                                          m_form.cmdCopyNotepad, m_form.cmdPrintNotepad}) {
-    control->setVisible(m_notepadVisible);
-  }
-  fitSize();
 }
 
 void frmeBayFees::fitSize() {

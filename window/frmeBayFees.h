@@ -9,6 +9,7 @@
 
 #include "dutch_auction.h"
 #include "multiple_items_tab.h"
+#include "notes.h"
 #include "payment_service.h"
 #include "payment_tab.h"
 #include "regular_auction.h"
@@ -31,11 +32,12 @@ struct SettingAccess;
 /// multiple_items_tab.h, payment_tab.h).
 ///
 /// Which file holds what:
-///   frmeBayFees.cpp                 loading, unloading, menus File and Options, notepad view, size
+///   frmeBayFees.cpp                 loading, unloading, menus File and Options, size
 ///   frmeBayFees_captions.cpp        texts of the current language, menu of the languages
 ///   frmeBayFees_entry_fields.cpp    what happens when an entry box changes or is left
 ///   frmeBayFees_lists.cpp           the items of the lists
 ///   frmeBayFees_multiple_items.cpp  the Multiple Items tab
+///   frmeBayFees_notepad.cpp         entries into the notepad, its view, copying, clearing, printing
 ///   frmeBayFees_payment.cpp         the Payment Services tab
 ///   frmeBayFees_settings.cpp        first-run defaults, restoring, saving
 ///   frmeBayFees_single_item.cpp     the Single Item tab
@@ -86,9 +88,7 @@ class frmeBayFees : public QMainWindow {
   void mnuFileNewWindow_Click();
   void mnuFileExit_Click();
   void mnuOptionsOnTop_Click();
-  void cmdNotepad_Click();
   void RefreshWindow();
-  void refreshNotepad();
   void refreshPhotoLists();
   void fitSize();
 
@@ -165,6 +165,19 @@ class frmeBayFees : public QMainWindow {
   void chooseDutchPriceLabel();
   void captionDutchGiftBox();
 
+  // Notepad (frmeBayFees_notepad.cpp)
+  void connectNotepad();
+  void cmdNotepad_Click();
+  void refreshNotepad();
+  void cmdAddRegularToNotes_Click();
+  void cmdAddDutchToNotes_Click();
+  void cmdAddPaymentsToNotes_Click();
+  void addToNotes(const QString& entry);
+  [[nodiscard]] QString notes() const;
+  void cmdCopyNotepad_Click();
+  void cmdClearNotepad_Click();
+  void cmdPrintNotepad_Click();
+
   // Payment Services tab (frmeBayFees_payment.cpp)
   void connectPaymentTab();
   [[nodiscard]] PaymentChoices paymentChoices() const;
@@ -219,6 +232,7 @@ class frmeBayFees : public QMainWindow {
   std::unique_ptr<CRegularAuction> m_regularAuction;
   std::unique_ptr<CDutchAuction> m_dutchAuction;
   std::unique_ptr<CPaymentService> m_paymentService;
+  std::unique_ptr<CNotes> m_notes;
   std::shared_ptr<CStartStatus> m_startStatus;
 };
 

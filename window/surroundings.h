@@ -2,10 +2,12 @@
 
 #include <QString>
 
+#include "clock.h"
 #include "custom_brand.h"
 #include "keep_on_top.h"
 #include "language_choice.h"
 #include "message_box.h"
+#include "note_printer.h"
 #include "number_locale.h"
 #include "program_starter.h"
 #include "settings_store.h"
@@ -19,6 +21,8 @@ struct Surroundings {
   CCustomBrand& brand;
   ProgramStarter& programs;
   KeepOnTop& stacking;
+  NotePrinter& printer;
+  Clock& clock;
   NumberLocale locale;    ///< how the user writes amounts
   QString programFolder;  ///< where the program's files lie
 };

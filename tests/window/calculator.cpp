@@ -27,6 +27,8 @@ Calculator::Calculator(NumberLocale locale, int site, QString languageFolder)
                                                  .brand = brand,
                                                  .programs = starter,
                                                  .stacking = stacking,
+                                                 .printer = printer,
+                                                 .clock = clock,
                                                  .locale = std::move(locale),
                                                  .programFolder = QCoreApplication::applicationDirPath()});
 }

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include "frmeBayFees.h"
+#include "recording_surface.h"
 #include "surroundings.h"
 
 /// Stand-ins for everything outside the program, which record what was asked of them.
@@ -50,6 +51,26 @@ struct RecordingStacking : KeepOnTop {
   QList<bool> requests;
 
   void request(QWidget& /*window*/, bool onTop) override { requests << onTop; }
+};
+
+/// Keeps what every job printed. `isWanted` false is a user who decides against it; `lastPage` is how many
+/// pages there is paper for.
+struct RecordingPrinter : NotePrinter {
+  QStringList titles;
+  PrintRecord record;
+  bool isWanted = true;
+  int lastPage = 1000;
+
+  std::unique_ptr<PageSurface> open(QWidget* /*parent*/, const QString& title) override {
+    titles << title;
+    record = {};
+    return isWanted ? std::make_unique<RecordingSurface>(record, lastPage) : nullptr;
+  }
+};
+
+/// The sixth of February 2003, always.
+struct FixedClock : Clock {
+  [[nodiscard]] QDate today() const override { return {2003, 2, 6}; }
 };
 
 inline const NumberLocale kPointLocale{".", ",", "$"};
@@ -99,6 +120,8 @@ class Calculator {
   RecordingMessages messages;
   RecordingStarter starter;
   RecordingStacking stacking;
+  RecordingPrinter printer;
+  FixedClock clock;
   /// Knows a user in the United States.
   Localization::LanguageChoice languages;
   CCustomBrand brand{QString()};

@@ -14,6 +14,8 @@ struct LoudWindow {
   MemorySettings settings;
   RecordingStarter starter;
   RecordingStacking stacking;
+  RecordingPrinter printer;
+  FixedClock clock;
   Localization::LanguageChoice languages{builtLanguages(settings, messages)};
   CCustomBrand brand{QString()};
 
@@ -24,6 +26,8 @@ struct LoudWindow {
             .brand = brand,
             .programs = starter,
             .stacking = stacking,
+            .printer = printer,
+            .clock = clock,
             .locale = kPointLocale,
             .programFolder = {}};
   }

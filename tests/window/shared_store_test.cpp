@@ -25,6 +25,8 @@ class Seller {
                                                           .brand = m_brand,
                                                           .programs = m_starter,
                                                           .stacking = m_stacking,
+                                                          .printer = m_printer,
+                                                          .clock = m_clock,
                                                           .locale = kPointLocale,
                                                           .programFolder = {}});
     m_window->Initialize(std::make_shared<CStartStatus>(m_settings));
@@ -58,6 +60,8 @@ class Seller {
   RecordingMessages m_messages;
   RecordingStarter m_starter;
   RecordingStacking m_stacking;
+  RecordingPrinter m_printer;
+  FixedClock m_clock;
   Localization::LanguageChoice m_languages;
   CCustomBrand m_brand{QString()};
   std::unique_ptr<frmeBayFees> m_window;

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <memory>
+#include <QString>
+
+#include "page_surface.h"
+
+class QWidget;
+
+/// Where the notepad is printed.
+class NotePrinter {
+ public:
+  virtual ~NotePrinter() = default;
+
+  /// Opens a print job of that name. Nothing if the user decides against it. Throws PrintError.
+  virtual std::unique_ptr<PageSurface> open(QWidget* parent, const QString& title) = 0;
+};
+
+/// Prints on the desktop's default printer at once. On a machine without a printer it asks where to save a
+/// PDF instead, with the given title as its proposed name.
+class SystemPrinter : public NotePrinter {
+ public:
+  std::unique_ptr<PageSurface> open(QWidget* parent, const QString& title) override;
+};
+
+/// A print job that ends in the PDF file `path`, which stays as it was until the job has ended well.
+std::unique_ptr<PageSurface> openPdf(const QString& path, const QString& title);

@@ -13,7 +13,7 @@ namespace {
 const QString kLineBreak = QStringLiteral("\r\n");
 const QString kSeparator = QStringLiteral("    ");
 
-QString rule() { return QString(50, u'-'); }
+QString rule() { return {50, u'-'}; }
 
 /// Set apart from the figure on the UK site only.
 QString currencyOf(const CAuctionSite& site) {

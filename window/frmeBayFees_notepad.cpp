@@ -85,9 +85,14 @@ void frmeBayFees::addToNotes(const QString& entry) {
   box.verticalScrollBar()->setValue(box.verticalScrollBar()->maximum());
 }
 
-// The box keeps one character for a line break; outside it takes two.
+// The box keeps one character for a line break; outside it takes two. As raw text, because the plain one has
+// a blank for every no-break space, and French labels would break before their colons.
 QString frmeBayFees::notes() const {
-  return m_form.txtNotes->toPlainText().replace(u'\n', QStringLiteral("\r\n"));
+  QString text = m_form.txtNotes->document()->toRawText();
+  for (const QChar lineBreak : {QChar::ParagraphSeparator, QChar::LineSeparator}) {
+    text.replace(lineBreak, QStringLiteral("\r\n"));
+  }
+  return text;
 }
 
 void frmeBayFees::cmdCopyNotepad_Click() { QGuiApplication::clipboard()->setText(notes()); }

@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 
 #include "paged_surface.h"
+#include "print_queue.h"
 
 namespace {
 
@@ -19,17 +20,20 @@ QPrinterInfo chosenPrinter() {
   return printers.isEmpty() ? QPrinterInfo() : printers.first();
 }
 
+void requireAcceptance(const QString& printerName) {
+  if (acceptsPrintJobs(printerName)) return;
+  throw PrintError("The printer " + printerName.toStdString() + " takes no print jobs at present.");
+}
+
 std::unique_ptr<PageSurface> openPrinter(const QPrinterInfo& info, const QString& title) {
+  const QString name = info.printerName();
+  requireAcceptance(name);
   auto printer = std::make_unique<QPrinter>(info, QPrinter::HighResolution);
   printer->setDocName(title);
+  printer->setPageSize(info.defaultPageSize());
   printer->setFullPage(true);
-  const auto handOver = [name = info.printerName(), job = printer.get()] {
-    // A printer that has gone meanwhile has taken nothing, and nobody else says so.
-    if (job->printerState() == QPrinter::Error || QPrinterInfo::printerInfo(name).isNull()) {
-      throw PrintError("The printer " + name.toStdString() + " did not take the notepad.");
-    }
-  };
-  return std::make_unique<PagedSurface>(std::move(printer), handOver);
+  // A printer that has gone or was closed meanwhile has taken nothing, and nobody else says so.
+  return std::make_unique<PagedSurface>(std::move(printer), [name] { requireAcceptance(name); });
 }
 
 QString askForPdf(QWidget* parent, const QString& title) {

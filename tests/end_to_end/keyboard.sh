@@ -18,10 +18,11 @@ TAB_ORDER=(
   chkRealEstate chkSubTitleSingleItem chkListingDesigner chkScheduled chkSlideshow chkSupersizePhotos
   chkExtraPhotos cboExtraPhotos chkBIN chkTenDayAuction chkTwoCategories chkFeaturedCategory chkFeatured
   chkGallery chkGalleryFeatured chkHighlighted chkBold chkGiftIcon txtInsertionFee txtExtras txtFVF txtFees
-  cmdCalculate cmdClearAll cmdNotepad txtNotes SSTab1)
+  cmdCalculate cmdClearAll cmdAddRegularToNotes cmdNotepad cmdPrintNotepad cmdCopyNotepad cmdClearNotepad txtNotes SSTab1)
 
 # What the Tab key passes by because it is disabled or hidden just now.
-declare -A UNREACHABLE=([chkVehicle]=1 [optMotorcycle]=1 [cboExtraPhotos]=1 [chkGalleryFeatured]=1 [txtNotes]=1)
+declare -A UNREACHABLE=([chkVehicle]=1 [optMotorcycle]=1 [cboExtraPhotos]=1 [chkGalleryFeatured]=1
+  [cmdPrintNotepad]=1 [cmdCopyNotepad]=1 [cmdClearNotepad]=1 [txtNotes]=1)
 
 STEP="start"
 UNREAD="nothing was copied"
@@ -112,8 +113,14 @@ go_to() {
   press alt+e "${keys[@]}"
 }
 
-reachable() { unset "UNREACHABLE[$1]"; }
-unreachable() { UNREACHABLE[$1]=1; }
+reachable() {
+  local control
+  for control in "$@"; do unset "UNREACHABLE[$control]"; done
+}
+unreachable() {
+  local control
+  for control in "$@"; do UNREACHABLE[$control]=1; done
+}
 
 # fill_in BOX TEXT: the box selects its text when it is entered, so that typing replaces it.
 fill_in() {

@@ -116,14 +116,14 @@ step "show the notepad and write into it"
 height=$(window_height)
 push cmdNotepad
 until_true 20 is_higher_than "$height" || fail "the window did not grow"
-reachable txtNotes
+reachable cmdPrintNotepad cmdCopyNotepad cmdClearNotepad txtNotes
 go_to txtNotes
 enter "Sold to Ann"
 expect txtNotes "Sold to Ann"
 
 step "hide the notepad"
 push cmdNotepad
-unreachable txtNotes
+unreachable cmdPrintNotepad cmdCopyNotepad cmdClearNotepad txtNotes
 until_true 20 is_as_high_as "$height" || fail "the window did not shrink back"
 
 step "Options > Keep on Top, on and off"

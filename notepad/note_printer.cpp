@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QLocale>
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -51,6 +52,8 @@ std::unique_ptr<PageSurface> openPdf(const QString& path, const QString& title) 
   if (!file->open(QIODevice::WriteOnly)) throw PrintError(problem);
   auto pdf = std::make_unique<QPdfWriter>(file.get());
   pdf->setTitle(title);
+  const bool isLetter = QLocale().measurementSystem() == QLocale::ImperialUSSystem;
+  pdf->setPageSize(QPageSize(isLetter ? QPageSize::Letter : QPageSize::A4));
   return std::make_unique<PagedSurface>(std::move(pdf), [file, problem] {
     if (!file->commit()) throw PrintError(problem);
   });

@@ -21,8 +21,8 @@ struct PrintRecord {
   bool isEnded = false;
 };
 
-/// A4 paper, every character 100 wide and every line 240 high. It records into `record`, which must outlive it, and
-/// refuses to take a page beyond `lastPage`.
+/// A4 paper, every character 100 wide and every line 240 high. It records into `record`, which must outlive
+/// it, and refuses to take a page beyond `lastPage`.
 class RecordingSurface : public CountingSurface {
  public:
   static constexpr double kWidth = 11906;

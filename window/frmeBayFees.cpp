@@ -127,6 +127,7 @@ void frmeBayFees::Form_Load() {
     restoreSettings();
   });
   m_single.txtStartingPrice->setFocus();
+  fitSize();
   QMainWindow::show();
 }
 

@@ -47,7 +47,7 @@ void frmeBayFees::refreshNotepad() {
                                                           m_form.cmdCopyNotepad, m_form.cmdPrintNotepad}) {
     control->setVisible(m_notepadVisible);
   }
-  fitSize();
+  if (isVisible()) fitSize();  // while it loads it is measured once, at the end
 }
 
 void frmeBayFees::cmdAddRegularToNotes_Click() {

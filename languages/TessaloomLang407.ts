@@ -151,7 +151,7 @@
     <message id="0252">
         <source>Check this box if your item did not sell, i.e it did not get any bids or did not meet the posted reserve.</source>
         <extracomment>Tooltip of chkDidNotSell (check box, Single Item tab)</extracomment>
-        <translation>Kreuzen Sie dieses Kästchen an, wenn Ihr Artikel nicht verkauft wurde, d. h. wenn er keine Gebote erhielt oder der festgelegte Mindestpreis nicht erreicht wurde.</translation>
+        <translation>Kreuzen Sie dieses Kästchen an, wenn Ihr Artikel nicht verkauft wurde, d. h. wenn er keine Gebote erhielt oder der festgelegte Mindestpreis nicht erreicht wurde.</translation>
     </message>
     <message id="0253">
         <source>This box shows the commission you pay to eBay, based on the final sales price (for most items).</source>
@@ -206,7 +206,7 @@
     <message id="0263">
         <source>One US$ =</source>
         <extracomment>Caption of lblOneDollarEquals (label, Payment Services tab)</extracomment>
-        <translation>1 US$ =</translation>
+        <translation>1 US$ =</translation>
     </message>
     <message id="0264">
         <source>US$</source>
@@ -236,7 +236,7 @@
     <message id="0269">
         <source>Buyer outside USA</source>
         <extracomment>Caption of chkInternationalPayPal (check box, Payment Services tab)</extracomment>
-        <translation>Käufer nicht aus USA</translation>
+        <translation>Käufer nicht aus den USA</translation>
     </message>
     <message id="0270">
         <source>Was the buyer International?</source>
@@ -361,7 +361,7 @@
     <message id="0294">
         <source>For eBay Picture Services photos that can be enlarged to 800 x 600.  One price for all photos.</source>
         <extracomment>Tooltip of chkDutchScheduled (check box, Multiple Items tab)</extracomment>
-        <translation>Für Bilder aus dem eBay-Bilderservice, die sich auf 800 × 600 vergrößern lassen. Ein Preis für alle Bilder.</translation>
+        <translation>Für Bilder aus dem eBay-Bilderservice, die sich auf 800 × 600 vergrößern lassen. Ein Preis für alle Bilder.</translation>
     </message>
     <message id="0295">
         <source>Enter the lowest sucessful bid placed on one of the items.</source>
@@ -386,12 +386,12 @@
     <message id="0299">
         <source>Supersize Picture</source>
         <extracomment>Caption of chkSupersizeDutch (check box, Multiple Items tab)</extracomment>
-        <translation>XXL-Bild</translation>
+        <translation>XXL-Foto</translation>
     </message>
     <message id="0300">
         <source>For eBay Picture Services photos that can be enlarged to 800 x 600.  One price for all photos.</source>
         <extracomment>Tooltip of chkSupersizeDutch (check box, Multiple Items tab)</extracomment>
-        <translation>Für Bilder aus dem eBay-Bilderservice, die sich auf 800 × 600 vergrößern lassen. Ein Preis für alle Bilder.</translation>
+        <translation>Für Bilder aus dem eBay-Bilderservice, die sich auf 800 × 600 vergrößern lassen. Ein Preis für alle Bilder.</translation>
     </message>
     <message id="0301">
         <source>Slideshow</source>
@@ -576,7 +576,7 @@
     <message id="0337">
         <source>For eBay Picture Services photos that can be enlarged to 800 x 600.  One price for all photos.</source>
         <extracomment>Tooltip of chkScheduled (check box, Single Item tab)</extracomment>
-        <translation>Für Bilder aus dem eBay-Bilderservice, die sich auf 800 × 600 vergrößern lassen. Ein Preis für alle Bilder.</translation>
+        <translation>Für Bilder aus dem eBay-Bilderservice, die sich auf 800 × 600 vergrößern lassen. Ein Preis für alle Bilder.</translation>
     </message>
     <message id="0338">
         <source>Slideshow</source>
@@ -591,12 +591,12 @@
     <message id="0340">
         <source>Supersize Picture</source>
         <extracomment>Caption of chkSupersizePhotos (check box, Single Item tab)</extracomment>
-        <translation>XXL-Bild</translation>
+        <translation>XXL-Foto</translation>
     </message>
     <message id="0341">
         <source>For eBay Picture Services photos that can be enlarged to 800 x 600.  One price for all photos.</source>
         <extracomment>Tooltip of chkSupersizePhotos (check box, Single Item tab)</extracomment>
-        <translation>Für Bilder aus dem eBay-Bilderservice, die sich auf 800 × 600 vergrößern lassen. Ein Preis für alle Bilder.</translation>
+        <translation>Für Bilder aus dem eBay-Bilderservice, die sich auf 800 × 600 vergrößern lassen. Ein Preis für alle Bilder.</translation>
     </message>
     <message id="0342">
         <source>Choose the number of extra photos used (beyond the free one).</source>
@@ -1236,7 +1236,7 @@
     <message id="0619">
         <source>N/A</source>
         <extracomment>A fee that cannot be worked out: not available, short.</extracomment>
-        <translation>k. A.</translation>
+        <translation>k. A.</translation>
     </message>
     <message id="0620">
         <source>Tessaloom for eBay.com</source>
@@ -1246,7 +1246,7 @@
     <message id="0621">
         <source>Buyer outside USA</source>
         <extracomment>Caption of chkInternationalPayPal on eBay.com.</extracomment>
-        <translation>Käufer nicht aus USA</translation>
+        <translation>Käufer nicht aus den USA</translation>
     </message>
     <message id="0622">
         <source>Tessaloom for eBay Canada (items listed in C$)</source>
@@ -1256,7 +1256,7 @@
     <message id="0623">
         <source>Buyer outside Canada/USA</source>
         <extracomment>Caption of chkInternationalPayPal on eBay Canada.</extracomment>
-        <translation>Käufer nicht aus Kanada/USA</translation>
+        <translation>Käufer nicht aus Kanada/den USA</translation>
     </message>
     <message id="0624">
         <source>Tessaloom for eBay UK</source>
@@ -1266,7 +1266,7 @@
     <message id="0625">
         <source>Buyer outside UK</source>
         <extracomment>Caption of chkInternationalPayPal on eBay UK.</extracomment>
-        <translation>Käufer nicht aus UK</translation>
+        <translation>Käufer nicht aus Großbritannien</translation>
     </message>
     <message id="0626">
         <source>Tessaloom for eBay Germany</source>

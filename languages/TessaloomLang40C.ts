@@ -231,7 +231,7 @@
     <message id="0268">
         <source>Note:  Standard PayPal accounts are free.  These fees only apply to PayPal Premium accounts.</source>
         <extracomment>Tooltip of frmPayPal (frame, Payment Services tab)</extracomment>
-        <translation>Remarque : les comptes PayPal standard sont gratuits. Ces frais ne s’appliquent qu’aux comptes PayPal Premier.</translation>
+        <translation>Remarque : les comptes PayPal standard sont gratuits. Ces frais ne s’appliquent qu’aux comptes PayPal Premier et Business.</translation>
     </message>
     <message id="0269">
         <source>Buyer outside USA</source>
@@ -466,7 +466,7 @@
     <message id="0315">
         <source>Home Page Featured</source>
         <extracomment>Caption of chkDutchHomePageFeatured (check box, Multiple Items tab)</extracomment>
-        <translation>Page d’accueil</translation>
+        <translation>Vedette page d’accueil</translation>
     </message>
     <message id="0316">
         <source>Featured on the eBay home page.</source>
@@ -661,7 +661,7 @@
     <message id="0354">
         <source>Home Page Featured</source>
         <extracomment>Caption of chkFeatured (check box, Single Item tab)</extracomment>
-        <translation>Page d’accueil</translation>
+        <translation>Vedette page d’accueil</translation>
     </message>
     <message id="0355">
         <source>Featured on the eBay home page.</source>
@@ -1426,7 +1426,7 @@
     <message id="0660">
         <source>New Version Available.</source>
         <extracomment>Title of the update window.</extracomment>
-        <translation>Nouvelle version disponible</translation>
+        <translation>Nouvelle version disponible.</translation>
     </message>
     <message id="0661">
         <source>New Version Available.</source>

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <QLocale>
+#include <QPageSize>
 #include <QString>
 
 #include "page_surface.h"
@@ -16,12 +18,15 @@ class NotePrinter {
   virtual std::unique_ptr<PageSurface> open(QWidget* parent, const QString& title) = 0;
 };
 
-/// Prints on the desktop's default printer at once. On a machine without a printer it asks where to save a
-/// PDF instead, with the given title as its proposed name.
+/// Prints on the desktop's default printer at once. On a machine that has none it asks where to save a PDF
+/// instead, with the given title as its proposed name.
 class SystemPrinter : public NotePrinter {
  public:
   std::unique_ptr<PageSurface> open(QWidget* parent, const QString& title) override;
 };
 
 /// A print job that ends in the PDF file `path`, which stays as it was until the job has ended well.
-std::unique_ptr<PageSurface> openPdf(const QString& path, const QString& title);
+std::unique_ptr<PageSurface> openPdf(const QString& path, const QString& title, const QPageSize& paper);
+
+/// The paper that people print on where a locale is at home.
+QPageSize paperOf(const QLocale& locale);

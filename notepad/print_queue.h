@@ -2,6 +2,13 @@
 
 #include <QString>
 
-/// Whether the printer of that name takes print jobs now. Qt hands a job over without looking whether it is
-/// taken. Where the desktop's printing system cannot be asked, every printer counts as one that does.
-bool acceptsPrintJobs(const QString& printerName);
+/// The desktop's print queues, where they take PDF files.
+namespace PrintQueue {
+
+/// Whether there is a printing system here that takes PDF files.
+bool takesPdf();
+
+/// Hands a PDF over to the printer of that name. Throws PrintError with the reason if it is not taken.
+void print(const QString& printerName, const QString& pdfPath, const QString& title);
+
+}  // namespace PrintQueue

@@ -1,37 +1,33 @@
 #include "print_queue.h"
 
 #include <cups/cups.h>
+#include <QFile>
 #include <QLibrary>
 
-// As it is done on every system that prints through CUPS. Its library is loaded when something is printed: with all
-// that it needs it would take a third of the program's start.
+#include "page_surface.h"
+
+// As it is done on every system that prints through CUPS. Its library is loaded when something is printed:
+// with all that it needs it would take a third of the program's start.
 
 namespace {
 
 template <typename Function>
-Function* resolved(QLibrary& library, const char* name) {
+Function* resolved(const char* name) {
   // The only way in which a function comes out of a library that was loaded.
   // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast)
-  return reinterpret_cast<Function*>(library.resolve(name));
+  return reinterpret_cast<Function*>(QLibrary::resolve(QStringLiteral("cups"), 2, name));
 }
 
 }  // namespace
 
-bool acceptsPrintJobs(const QString& printerName) {
-  QLibrary cups(QStringLiteral("cups"), 2);
-  const auto namedDest = resolved<decltype(cupsGetNamedDest)>(cups, "cupsGetNamedDest");
-  const auto option = resolved<decltype(cupsGetOption)>(cups, "cupsGetOption");
-  const auto freeDests = resolved<decltype(cupsFreeDests)>(cups, "cupsFreeDests");
-  if (namedDest == nullptr || option == nullptr || freeDests == nullptr) return true;
+bool PrintQueue::takesPdf() { return resolved<decltype(cupsPrintFile)>("cupsPrintFile") != nullptr; }
 
-  // A printer can have several sets of options; "name/instance" is one of them.
-  const QByteArray name = printerName.section(u'/', 0, 0).toUtf8();
-  const QByteArray instance = printerName.section(u'/', 1).toUtf8();
-  cups_dest_t* queue =
-      namedDest(CUPS_HTTP_DEFAULT, name.constData(), instance.isEmpty() ? nullptr : instance.constData());
-  if (queue == nullptr) return false;
-  const char* accepts = option("printer-is-accepting-jobs", queue->num_options, queue->options);
-  const bool isRefusing = QLatin1StringView(accepts) == QLatin1StringView("false");
-  freeDests(1, queue);
-  return !isRefusing;
+void PrintQueue::print(const QString& printerName, const QString& pdfPath, const QString& title) {
+  auto* const printFile = resolved<decltype(cupsPrintFile)>("cupsPrintFile");
+  auto* const lastError = resolved<decltype(cupsLastErrorString)>("cupsLastErrorString");
+  const int job = printFile(printerName.toUtf8().constData(), QFile::encodeName(pdfPath).constData(),
+                            title.toUtf8().constData(), 0, nullptr);
+  if (job != 0) return;
+  const std::string reason = lastError != nullptr ? lastError() : "";
+  throw PrintError("The printer " + printerName.toStdString() + " did not take the notepad. " + reason);
 }

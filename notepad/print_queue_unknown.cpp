@@ -1,5 +1,11 @@
 #include "print_queue.h"
 
-// Where no printing system is known that could be asked.
+#include "page_surface.h"
 
-bool acceptsPrintJobs(const QString& /*printerName*/) { return true; }
+// Where no printing system is known that takes files.
+
+bool PrintQueue::takesPdf() { return false; }
+
+void PrintQueue::print(const QString& printerName, const QString& /*pdfPath*/, const QString& /*title*/) {
+  throw PrintError("The printer " + printerName.toStdString() + " takes no files.");
+}

@@ -20,8 +20,8 @@ struct Setting {
   const char* key;
   SettingAccess access;
   std::optional<QString> firstRun;  ///< the default; nothing: not written at the first run
-  int saved;                        ///< at which step of saving it is written
-  int restored;                     ///< at which step of restoring it is read
+  int saved;     ///< at which step of saving it is handed to the store, which takes all at once
+  int restored;  ///< at which step of restoring it is read
 
   static constexpr int kNever = 0;
 };

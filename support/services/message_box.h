@@ -5,7 +5,7 @@
 class QWidget;
 
 /// Tells the user something and waits for OK. `text` is shown as it stands, never as markup; without a
-/// `parent` the message stands alone on the desktop.
+/// `parent` it belongs to whatever window of the program is in front.
 class MessageBox {
  public:
   virtual ~MessageBox() = default;

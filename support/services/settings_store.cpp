@@ -1,5 +1,6 @@
 #include "settings_store.h"
 
+#include <algorithm>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -29,6 +30,24 @@ bool isRoomFor(qsizetype size, const QString& path) {
   return probe.open() && probe.write(QByteArray(size, ' ')) == size && probe.flush();
 }
 
+/// Whether every line of a file of settings says something; what says nothing would not be written again.
+bool isUnderstood(const QByteArray& content) {
+  const QList<QByteArray> lines = content.split('\n');
+  return std::all_of(lines.begin(), lines.end(), [](const QByteArray& line) {
+    const QByteArray text = line.trimmed();
+    const bool isHeading = text.startsWith('[') && text.endsWith(']');
+    return text.isEmpty() || text.startsWith(';') || isHeading || text.contains('=');
+  });
+}
+
+void keepIfDamaged(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly) || isUnderstood(file.readAll())) return;
+  QString copy = path + QStringLiteral(".damaged");
+  for (int number = 2; QFile::exists(copy); ++number) copy = path + QStringLiteral(".damaged.%1").arg(number);
+  file.copy(copy);
+}
+
 SettingsError notStoredIn(const QSettings& settings) {
   return SettingsError("The settings could not be stored in " + settings.fileName().toStdString() + ".");
 }
@@ -36,13 +55,7 @@ SettingsError notStoredIn(const QSettings& settings) {
 }  // namespace
 
 UserSettings::UserSettings()
-    : m_settings(QSettings::NativeFormat, QSettings::UserScope, kOrganization, kApplication) {
-  // Only what was understood will be written again. The file is read when its keys are asked for.
-  m_settings.allKeys();
-  if (m_settings.status() == QSettings::FormatError) {
-    QFile::copy(m_settings.fileName(), m_settings.fileName() + QStringLiteral(".damaged"));
-  }
-}
+    : m_settings(QSettings::NativeFormat, QSettings::UserScope, kOrganization, kApplication) {}
 
 QString UserSettings::read(const QString& key) {
   if (const auto unstored = m_unstored.constFind(key); unstored != m_unstored.cend()) return *unstored;
@@ -57,6 +70,7 @@ void UserSettings::writeAll(const SettingList& values) {
   QSettings settings(QSettings::NativeFormat, QSettings::UserScope, kOrganization, kApplication);
   if (!isRoomFor(largestSizeWith(settings.fileName(), m_unstored), settings.fileName()))
     throw notStoredIn(settings);
+  keepIfDamaged(settings.fileName());
   for (auto value = m_unstored.cbegin(); value != m_unstored.cend(); ++value)
     settings.setValue(value.key(), value.value());
   settings.sync();

@@ -13,7 +13,7 @@ class SettingsError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Keys and their values, in the order in which they are to be written.
+/// Keys and their values.
 using SettingList = QList<QPair<QString, QString>>;
 
 /// The per-user settings: texts by key. It knows neither which keys there are nor what their texts mean.
@@ -32,10 +32,10 @@ class SettingsStore {
 
 /// The real store: the desktop's settings of the application "Tessaloom" of the organization "Ostrevane".
 /// Several windows, each a process of its own, share it; every read sees what the others have written.
+/// A file that is not wholly understood is kept under its name and ".damaged" before it is written over.
 /// Values that could not be stored stay known to this process, and are tried again with the next ones.
 class UserSettings : public SettingsStore {
  public:
-  /// A file that is not wholly understood is kept under its name and ".damaged" before anything is written.
   UserSettings();
 
   [[nodiscard]] QString read(const QString& key) override;

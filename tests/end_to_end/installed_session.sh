@@ -34,6 +34,18 @@ until_true 20 is_message_gone || fail "Return did not close the message"
 window=$(visible_window Tessaloom "$program_pid") || fail "no window appeared"
 expect_title "Tessaloom for eBay.com"
 until_true 20 is_active || fail "the window did not become active"
+
+step "also over a window that is kept on top"
+press alt+o
+until_true 20 is_menu_open || fail "Alt+O opened no menu"
+press k
+until_true 20 is_on_top || fail "the window was not kept on top"
+choose_language Down Down Down
+until_true 30 is_told || fail "no message told of the broken library"
+xprop -id "$(xdotool getactivewindow)" WM_TRANSIENT_FOR | grep -q "$(printf '0x%x' "$window")" ||
+  fail "the message does not belong to the window, which hides it"
+press Return
+until_true 20 is_message_gone || fail "Return did not close the message"
 end_program
 
 step "done"

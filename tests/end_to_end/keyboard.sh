@@ -183,6 +183,13 @@ all_keys_handled() {
   until_true 20 is_menu_closed || fail "Escape did not close the menu"
 }
 
+# choose_language KEY...: from the first entry of the menu of languages.
+choose_language() {
+  press alt+o
+  until_true 20 is_menu_open || fail "Alt+O opened no menu" || return
+  press Up Right "$@" Return
+}
+
 visible_windows() { xdotool search --onlyvisible --class '^Tessaloom$' 2> /dev/null | wc -l; }
 is_menu_open() { (($(visible_windows) == 2)); }
 is_menu_closed() { (($(visible_windows) == 1)); }

@@ -20,13 +20,6 @@ save() {
   press v
 }
 
-# choose_language KEY...: from the first entry of the menu of languages.
-choose_language() {
-  press alt+o
-  until_true 20 is_menu_open || fail "Alt+O opened no menu" || return
-  press Up Right "$@" Return
-}
-
 # expect_store: its lines, in the order of the keys, are exactly these.
 expect_store() {
   { echo "[General]" && LC_ALL=C sort; } > "$folder/expected"

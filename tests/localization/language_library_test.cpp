@@ -95,7 +95,7 @@ TEST(LanguageLibrary, KeepsBlanksAndUmlauts) {
   const auto german = loadLanguageLibrary(shipped("407"));
   ASSERT_TRUE(german);
   EXPECT_EQ(german->GetResourceString(667), QStringLiteral("Seite "));
-  EXPECT_EQ(german->GetResourceString(625), QStringLiteral("Käufer nicht aus UK"));
+  EXPECT_EQ(german->GetResourceString(625), QStringLiteral("Käufer nicht aus Großbritannien"));
 }
 
 struct FormatRow {

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
+#include <QPageSize>
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QProcess>
@@ -21,6 +22,7 @@
 namespace {
 
 const QString kTitle = QStringLiteral("Tessaloom Notes");
+const QPageSize kPaper(QPageSize::A4);
 
 QByteArray bytesOf(const QString& path) {
   QFile file(path);
@@ -68,7 +70,7 @@ std::unique_ptr<PageSurface> printerInto(const QString& path) {
   return std::make_unique<PagedSurface>(std::move(printer), [] {});
 }
 
-std::unique_ptr<PageSurface> fileAt(const QString& path) { return openPdf(path, kTitle); }
+std::unique_ptr<PageSurface> fileAt(const QString& path) { return openPdf(path, kTitle, kPaper); }
 
 struct Way {
   const char* name;
@@ -284,7 +286,7 @@ class PdfFile : public ::testing::Test {
   [[nodiscard]] QString path() const { return m_folder.filePath(QStringLiteral("notes.pdf")); }
 
   static void save(const QString& target, const QString& text) {
-    const auto surface = openPdf(target, kTitle);
+    const auto surface = openPdf(target, kTitle, kPaper);
     CWordWrap(*surface, QStringLiteral("06.02.2003")).PrintText(text);
   }
 
@@ -324,7 +326,7 @@ TEST_F(PdfFile, IsRefusedByName) {
 
 TEST_F(PdfFile, StaysAsItWasWhenTheJobIsDropped) {
   {
-    const auto surface = openPdf(path(), kTitle);
+    const auto surface = openPdf(path(), kTitle, kPaper);
     surface->print(QStringLiteral("abc"));
     surface->newPage();
     surface->print(QStringLiteral("def"));
@@ -333,7 +335,7 @@ TEST_F(PdfFile, StaysAsItWasWhenTheJobIsDropped) {
 }
 
 TEST_F(PdfFile, StaysAsItWasWhileTheJobRuns) {
-  const auto surface = openPdf(path(), kTitle);
+  const auto surface = openPdf(path(), kTitle, kPaper);
   for (int page = 0; page < 100; ++page) {
     surface->print(QString(1000, u'm'));
     surface->newPage();
@@ -359,6 +361,25 @@ TEST_F(PdfFile, StaysAsItWasOnAFullDisk) {
   }
   save(path(), text);
   EXPECT_TRUE(bytesOf(path()).startsWith("%PDF-")) << "with room enough it is saved";
+}
+
+struct PaperRow {
+  const char* where;
+  const char* locale;
+  QPageSize::PageSizeId paper;
+};
+
+TEST(Paper, IsWhatPeopleHaveWhereTheyLive) {
+  for (const PaperRow& row :
+       std::initializer_list<PaperRow>{{"United States", "en_US", QPageSize::Letter},
+                                       {"Canada", "en_CA", QPageSize::Letter},
+                                       {"Canada, in French", "fr_CA", QPageSize::Letter},
+                                       {"Mexico", "es_MX", QPageSize::Letter},
+                                       {"United Kingdom", "en_GB", QPageSize::A4},
+                                       {"Germany", "de_DE", QPageSize::A4},
+                                       {"nowhere", "C", QPageSize::A4}}) {
+    EXPECT_EQ(paperOf(QLocale(QString::fromLatin1(row.locale))).id(), row.paper) << row.where;
+  }
 }
 
 }  // namespace

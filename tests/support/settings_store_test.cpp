@@ -73,10 +73,15 @@ class Settings : public ::testing::Test {
   void expectKeptAside(const QByteArray& damaged) {
     putFile(damaged);
     UserSettings store;
-    EXPECT_EQ(contentOf(path + QStringLiteral(".damaged")), damaged);
     store.write(key, value);
     EXPECT_EQ(readAnew(key), value);
     EXPECT_EQ(contentOf(path + QStringLiteral(".damaged")), damaged);
+    // Damage that happens later is kept besides.
+    const QByteArray again = damaged + "\nand once more\n";
+    putFile(again);
+    store.write(key, value);
+    EXPECT_EQ(contentOf(path + QStringLiteral(".damaged")), damaged);
+    EXPECT_EQ(contentOf(path + QStringLiteral(".damaged.2")), again);
   }
 
   const QString key = QStringLiteral("PayPalUKRate");

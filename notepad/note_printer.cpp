@@ -70,7 +70,7 @@ QString askForPdf(QWidget* parent, const QString& title) {
 QPageSize paperOf(const QLocale& locale) {
   const bool isLetter = std::find(kWithLetterPaper.begin(), kWithLetterPaper.end(), locale.territory()) !=
                         kWithLetterPaper.end();
-  return QPageSize(isLetter ? QPageSize::Letter : QPageSize::A4);
+  return {isLetter ? QPageSize::Letter : QPageSize::A4};
 }
 
 std::unique_ptr<PageSurface> openPdf(const QString& path, const QString& title, const QPageSize& paper) {

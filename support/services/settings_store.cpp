@@ -48,8 +48,8 @@ void keepIfDamaged(const QString& path) {
   file.copy(copy);
 }
 
-SettingsError notStoredIn(const QSettings& settings) {
-  return SettingsError("The settings could not be stored in " + settings.fileName().toStdString() + ".");
+[[noreturn]] void failToStoreIn(const QString& path) {
+  throw SettingsError("The settings could not be stored in " + path.toStdString() + ".");
 }
 
 }  // namespace
@@ -69,11 +69,11 @@ void UserSettings::writeAll(const SettingList& values) {
   // Its own object, on the same file: the status of one that failed once never becomes good again.
   QSettings settings(QSettings::NativeFormat, QSettings::UserScope, kOrganization, kApplication);
   if (!isRoomFor(largestSizeWith(settings.fileName(), m_unstored), settings.fileName()))
-    throw notStoredIn(settings);
+    failToStoreIn(settings.fileName());
   keepIfDamaged(settings.fileName());
   for (auto value = m_unstored.cbegin(); value != m_unstored.cend(); ++value)
     settings.setValue(value.key(), value.value());
   settings.sync();
-  if (settings.status() == QSettings::AccessError) throw notStoredIn(settings);
+  if (settings.status() == QSettings::AccessError) failToStoreIn(settings.fileName());
   m_unstored.clear();
 }

@@ -16,8 +16,8 @@ constexpr int kKills = 200;
 /// A window with the real store that saves and switches sites, round after round.
 class Seller {
  public:
-  explicit Seller(const QString& figure)
-      : m_figure(figure), m_languages(builtLanguages(m_settings, m_messages)) {
+  explicit Seller(QString figure)
+      : m_figure(std::move(figure)), m_languages(builtLanguages(m_settings, m_messages)) {
     m_languages.InitLanguage();
     m_window = std::make_unique<frmeBayFees>(Surroundings{.settings = m_settings,
                                                           .messages = m_messages,
@@ -69,8 +69,7 @@ class Seller {
 
 int sell(const QString& figure, int rounds) {
   Seller seller(figure);
-  fputs("open\n", stdout);
-  fflush(stdout);
+  QTextStream(stdout) << "open" << Qt::endl;
   for (int round = 0; rounds == 0 || round < rounds; ++round) seller.work(round);
   return seller.isContent() ? 0 : 1;
 }

@@ -16,7 +16,8 @@ void require(bool holds) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+  const void* input = data;
+  QByteArray bytes(static_cast<const char*>(input), static_cast<qsizetype>(size));
   QBuffer file(&bytes);
   file.open(QIODevice::ReadOnly);
   const QString text = CCustomBrand::textOf(file);

@@ -1,8 +1,11 @@
 #include <QApplication>
 #include <QFileInfo>
+#include <QIcon>
 #include <QLocale>
 
+#include "error_handler.h"
 #include "modal_message_box.h"
+#include "network_request.h"
 #include "start.h"
 #include "user_locale.h"
 
@@ -16,11 +19,20 @@ QString programName() {
                                                                     : program.fileName();
 }
 
+/// The program's picture in all its sizes.
+QIcon programIcon() {
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 64, 128})
+    icon.addFile(QStringLiteral(":/icon/tessaloom-%1.png").arg(size), QSize(size, size));
+  return icon;
+}
+
 }  // namespace
 
 /// Hands the real world to the program's start.
 int main(int argc, char* argv[]) {
   const QApplication application(argc, argv);
+  QApplication::setWindowIcon(programIcon());
   const QString programFolder = QApplication::applicationDirPath();
   UserSettings settings;
   ModalMessageBox messages;
@@ -30,15 +42,23 @@ int main(int argc, char* argv[]) {
                                           .programName = programName(),
                                           .userCode = Localization::userCode(interfaceLocale())});
   CCustomBrand brand(programFolder);
+  DesktopServices desktop;
+  NetworkRequest web;
   DetachedProgramStarter programs;
+  InstalledSystemInformation systemInformation;
   WindowFlagKeepOnTop stacking;
   SystemPrinter printer;
   SystemClock clock;
+  CError errors(brand, desktop, clock, DebugLogFile(stateFolder()));
   const Surroundings surroundings{.settings = settings,
                                   .messages = messages,
+                                  .errors = errors,
                                   .languages = languages,
                                   .brand = brand,
+                                  .desktop = desktop,
+                                  .web = web,
                                   .programs = programs,
+                                  .systemInformation = systemInformation,
                                   .stacking = stacking,
                                   .printer = printer,
                                   .clock = clock,

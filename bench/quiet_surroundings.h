@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "frmeBayFees.h"
+#include "start.h"
 
 /// Surroundings that cost nothing, so that what is measured is the window itself.
 struct MemorySettings : SettingsStore {
@@ -25,6 +26,27 @@ struct NoMessages : MessageBox {
   void showCritical(QWidget* parent, const QString& title, const QString& text) override {
     showPlain(parent, title, text);
   }
+};
+
+struct NoErrors : ErrorReporter {
+  void show(QWidget* /*parent*/, const QString& errorText) override {
+    qFatal("no error expected: %s", qPrintable(errorText));
+  }
+};
+
+struct NoDesktop : DesktopOpener {
+  bool openWeb(const QString& /*address*/) override { return false; }
+  bool openMail(const QString& /*mailLink*/) override { return false; }
+  bool openFile(const QString& /*path*/) override { return false; }
+};
+
+struct NoWeb : WebRequest {
+  void get(const QUrl& /*address*/, Answered /*answered*/) override {}
+  void cancel() override {}
+};
+
+struct NoSystemInformation : SystemInformation {
+  [[nodiscard]] QString programPath() override { return {}; }
 };
 
 struct NoPrograms : ProgramStarter {
@@ -52,17 +74,22 @@ class FilledWindow {
                      .programName = QStringLiteral("Tessaloom"),
                      .userCode = QStringLiteral("409")}) {
     m_languages.InitLanguage();
-    m_window = std::make_unique<frmeBayFees>(Surroundings{.settings = settings,
-                                                          .messages = m_messages,
-                                                          .languages = m_languages,
-                                                          .brand = m_brand,
-                                                          .programs = m_programs,
-                                                          .stacking = m_stacking,
-                                                          .printer = m_printer,
-                                                          .clock = m_clock,
-                                                          .locale = {},
-                                                          .programFolder = {}});
-    m_window->Initialize(std::make_shared<CStartStatus>(settings));
+    const Surroundings surroundings{.settings = settings,
+                                    .messages = m_messages,
+                                    .errors = m_errors,
+                                    .languages = m_languages,
+                                    .brand = m_brand,
+                                    .desktop = m_desktop,
+                                    .web = m_web,
+                                    .programs = m_programs,
+                                    .systemInformation = m_systemInformation,
+                                    .stacking = m_stacking,
+                                    .printer = m_printer,
+                                    .clock = m_clock,
+                                    .locale = {},
+                                    .programFolder = {}};
+    m_window = std::make_unique<frmeBayFees>(surroundings);
+    m_window->Initialize(Start::newStartStatus(surroundings));
     m_window->Form_Load();
     fillAllTabs();
     QApplication::processEvents();
@@ -91,7 +118,11 @@ class FilledWindow {
   }
 
   NoMessages m_messages;
+  NoErrors m_errors;
+  NoDesktop m_desktop;
+  NoWeb m_web;
   NoPrograms m_programs;
+  NoSystemInformation m_systemInformation;
   NoStacking m_stacking;
   NoPrinter m_printer;
   SystemClock m_clock;

@@ -1588,5 +1588,25 @@
         <extracomment>The name of the program; never translated.</extracomment>
         <translation>Tessaloom</translation>
     </message>
+    <message id="5001">
+        <source>Works out what eBay charges for a listing and what a payment service keeps of a payment.</source>
+        <extracomment>Description in the About window.</extracomment>
+        <translation>Berechnet, was eBay für ein Angebot verlangt und was ein Zahlungsdienst von einer Zahlung einbehält.</translation>
+    </message>
+    <message id="5002">
+        <source>The fees are a fixed schedule built into this program. They are not the prices of today. Tessaloom has no connection with eBay or PayPal.</source>
+        <extracomment>Disclaimer in the About window.</extracomment>
+        <translation>Die Gebühren sind eine feste Tabelle, die in dieses Programm eingebaut ist. Es sind nicht die heutigen Preise. Tessaloom steht in keiner Verbindung zu eBay oder PayPal.</translation>
+    </message>
+    <message id="5003">
+        <source>The help file was not found: </source>
+        <extracomment>Error; the path of the file follows.</extracomment>
+        <translation>Die Hilfedatei wurde nicht gefunden: </translation>
+    </message>
+    <message id="5004">
+        <source>This address could not be opened: </source>
+        <extracomment>Error; the address of a page or a mail follows.</extracomment>
+        <translation>Diese Adresse konnte nicht geöffnet werden: </translation>
+    </message>
 </context>
 </TS>

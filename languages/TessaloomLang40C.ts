@@ -1588,5 +1588,25 @@
         <extracomment>The name of the program; never translated.</extracomment>
         <translation>Tessaloom</translation>
     </message>
+    <message id="5001">
+        <source>Works out what eBay charges for a listing and what a payment service keeps of a payment.</source>
+        <extracomment>Description in the About window.</extracomment>
+        <translation>Calcule ce qu’eBay facture pour une annonce et ce qu’un service de paiement retient sur un paiement.</translation>
+    </message>
+    <message id="5002">
+        <source>The fees are a fixed schedule built into this program. They are not the prices of today. Tessaloom has no connection with eBay or PayPal.</source>
+        <extracomment>Disclaimer in the About window.</extracomment>
+        <translation>Les frais sont un barème fixe intégré à ce programme. Ce ne sont pas les prix d’aujourd’hui. Tessaloom n’a aucun lien avec eBay ni PayPal.</translation>
+    </message>
+    <message id="5003">
+        <source>The help file was not found: </source>
+        <extracomment>Error; the path of the file follows.</extracomment>
+        <translation>Le fichier d’aide est introuvable : </translation>
+    </message>
+    <message id="5004">
+        <source>This address could not be opened: </source>
+        <extracomment>Error; the address of a page or a mail follows.</extracomment>
+        <translation>Cette adresse n’a pas pu être ouverte : </translation>
+    </message>
 </context>
 </TS>

@@ -370,6 +370,10 @@ constexpr auto kTable = std::to_array<Row>({
     {699, u"US"},
     {700, u"Type of Listing:"},
     {5000, u"Tessaloom"},
+    {5001, u"Works out what eBay charges for a listing and what a payment service keeps of a payment."},
+    {5002, u"The fees are a fixed schedule built into this program. They are not the prices of today. Tessaloom has no connection with eBay or PayPal."},
+    {5003, u"The help file was not found: "},
+    {5004, u"This address could not be opened: "},
 });
 // clang-format on
 

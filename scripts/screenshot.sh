@@ -10,6 +10,7 @@ folder=$(mktemp -d)
 trap 'stop_virtual_display; rm -rf "$folder"' EXIT
 
 start_virtual_display "$folder"
+leave_first_run
 "$program" > "$folder/program.log" 2>&1 &
 pid=$!
 VIRTUAL_DISPLAY_PIDS=("$pid" "${VIRTUAL_DISPLAY_PIDS[@]}")

@@ -18,7 +18,8 @@ until_true() {
 # with a decimal point.
 start_virtual_display() {
   local folder=$1
-  export XDG_CONFIG_HOME=$folder/config XDG_DATA_HOME=$folder/data XDG_RUNTIME_DIR=$folder/runtime
+  export XDG_CONFIG_HOME=$folder/config XDG_DATA_HOME=$folder/data XDG_STATE_HOME=$folder/state
+  export XDG_RUNTIME_DIR=$folder/runtime
   mkdir -p "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$XDG_RUNTIME_DIR"
   chmod 700 "$XDG_RUNTIME_DIR"
   unset DISPLAY LC_ALL LANGUAGE WAYLAND_DISPLAY QT_QPA_PLATFORM QT_STYLE_OVERRIDE QT_SCALE_FACTOR QT_FONT_DPI
@@ -37,6 +38,12 @@ start_virtual_display() {
     cat "$folder/openbox.log" >&2
     return 1
   }
+}
+
+# Settings as an earlier run has left them: the first one asks a question before it shows its window.
+leave_first_run() {
+  mkdir -p "$XDG_CONFIG_HOME/Ostrevane"
+  printf '[General]\nSite=1\n' > "$XDG_CONFIG_HOME/Ostrevane/Tessaloom.conf"
 }
 
 has_window_manager() { xprop -root _NET_SUPPORTING_WM_CHECK 2> /dev/null | grep -q 'window id'; }

@@ -6,10 +6,6 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 
-#include "tagged_strings.h"
-
-using Localization::GetTagString;
-
 namespace {
 
 // The designed size, in twips. The outer heights include the window's caption and menu bar.
@@ -50,7 +46,7 @@ frmeBayFees::frmeBayFees(Surroundings surroundings) : m_surroundings(std::move(s
   connectSiteMenu();
   connectTabs();
   connectEntryFields();
-  disableWhatDoesNothingYet();
+  connectLinks();
 }
 
 frmeBayFees::~frmeBayFees() = default;
@@ -101,14 +97,9 @@ void frmeBayFees::connectTabs() {
   connectNotepad();
 }
 
-void frmeBayFees::disableWhatDoesNothingYet() {
-  for (QMenu* menu : {m_form.mnuHelp, m_form.mnuHelpSources}) {
-    for (QAction* action : menu->actions()) action->setEnabled(action->menu() != nullptr);
-  }
-}
-
 void frmeBayFees::Initialize(std::shared_ptr<CStartStatus> startStatus) {
   m_startStatus = std::move(startStatus);
+  m_startStatus->setWindow(this);
 }
 
 void frmeBayFees::Form_Load() {
@@ -205,21 +196,13 @@ void frmeBayFees::reportError(const QString& description) {
   // One message for one event.
   if (std::exchange(m_isErrorPending, true)) return;
   // A closing window has no after, and its closing is its last event.
-  if (m_isUnloaded) return tellError(description);
+  if (m_isUnloaded) return m_surroundings.errors.show(this, description);
   // After the event: a message must not open from within a change of focus.
   const auto tellLater = [this, description] {
     m_isErrorPending = false;
-    tellError(description);
+    m_surroundings.errors.show(this, description);
   };
   QMetaObject::invokeMethod(this, tellLater, Qt::QueuedConnection);
-}
-
-void frmeBayFees::tellError(const QString& description) {
-  const QString introduction = GetTagString(
-      QStringLiteral("An error has occured in this application.  The application has returned the following "
-                     "information about this error:<0213>"));
-  m_surroundings.messages.showCritical(this, GetTagString(QStringLiteral("Error<0463>")),
-                                       introduction + QStringLiteral("\n\n") + description);
 }
 
 void frmeBayFees::onChosen(std::initializer_list<QRadioButton*> options, void (frmeBayFees::*handler)()) {

@@ -35,6 +35,7 @@ struct SettingAccess;
 ///   frmeBayFees.cpp                 loading, unloading, menus File and Options, size
 ///   frmeBayFees_captions.cpp        texts of the current language, menu of the languages
 ///   frmeBayFees_entry_fields.cpp    what happens when an entry box changes or is left
+///   frmeBayFees_links.cpp           the menu Help, and the labels that open a page
 ///   frmeBayFees_lists.cpp           the items of the lists
 ///   frmeBayFees_multiple_items.cpp  the Multiple Items tab
 ///   frmeBayFees_notepad.cpp         entries into the notepad, its view, copying, clearing, printing
@@ -83,7 +84,6 @@ class frmeBayFees : public QMainWindow {
   void prepareMenus();
   void connectMenus();
   void connectTabs();
-  void disableWhatDoesNothingYet();
   void Form_Unload();
   void mnuFileNewWindow_Click();
   void mnuFileExit_Click();
@@ -116,6 +116,19 @@ class frmeBayFees : public QMainWindow {
   void leaveDutchFinalPrice();
   void leaveDutchItemsOffered();
   void leavePaymentAmount();
+
+  // Links (frmeBayFees_links.cpp)
+  void connectLinks();
+  [[nodiscard]] QString languageCode() const;
+  void openLink(const QString& control);
+  void openPage(const QString& address);
+  void openMail(const QString& mailLink);
+  void mnuHelpContents_Click();
+  void mnuHelpHomepage_Click();
+  void mnuHelpFeedback_Click();
+  void mnuHelpSubscribe_Click();
+  void mnuHelpUpdate_Click();
+  void mnuHelpAbout_Click();
 
   // Lists (frmeBayFees_lists.cpp)
   void fillLists();
@@ -203,7 +216,6 @@ class frmeBayFees : public QMainWindow {
   template <typename Handler>
   void guarded(Handler&& handler) noexcept;
   void reportError(const QString& description);
-  void tellError(const QString& description);
   /// Connects a signal to a guarded member, whatever the signal carries.
   template <typename Sender, typename Signal>
   void on(Sender* sender, Signal signal, void (frmeBayFees::*handler)());

@@ -3,10 +3,28 @@
 #include <QCoreApplication>
 #include <QLocale>
 
+#include "FCheckVersion.h"
 #include "number_format.h"
 #include "tagged_strings.h"
 
 using Localization::GetTagString;
+
+namespace {
+
+// The number of the calculator among the maker's kinds of programs.
+constexpr int kAppClass = 1;
+
+void askForUpdateCheck(const Surroundings& surroundings, const std::shared_ptr<CStartStatus>& startStatus) {
+  FCheckVersion prompt(surroundings.brand, startStatus);
+  const bool isAllowed = prompt.exec() == QDialog::Accepted;
+  try {
+    startStatus->keepUpdateCheck(isAllowed);
+  } catch (const SettingsError& error) {
+    surroundings.errors.show(nullptr, QString::fromUtf8(error.what()));
+  }
+}
+
+}  // namespace
 
 // The application's name alone: a display name would be appended to every window title.
 void Start::setApplicationTitle() {
@@ -24,10 +42,23 @@ std::unique_ptr<frmeBayFees> Start::Main(const Surroundings& surroundings,
     return nullptr;
   }
   setApplicationTitle();  // now in the chosen language
-  auto startStatus = std::make_shared<CStartStatus>(surroundings.settings);
+  auto startStatus = newStartStatus(surroundings);
   auto window = std::make_unique<frmeBayFees>(surroundings);
   surroundings.brand.Load();
+  if (startStatus->asksForUpdateCheck()) askForUpdateCheck(surroundings, startStatus);
   window->Initialize(std::move(startStatus));
   window->Form_Load();
   return window;
+}
+
+std::shared_ptr<CStartStatus> Start::newStartStatus(const Surroundings& surroundings) {
+  const Localization::LanguageChoice& languages = surroundings.languages;
+  return std::make_shared<CStartStatus>(
+      StartSurroundings{.settings = surroundings.settings,
+                        .web = surroundings.web,
+                        .desktop = surroundings.desktop,
+                        .messages = surroundings.messages,
+                        .brand = surroundings.brand,
+                        .languageName = [&languages] { return languages.CurrentLanguage().Name; },
+                        .appClass = kAppClass});
 }

@@ -1,16 +1,18 @@
 #pragma once
 
-#include <QDate>
+#include <QDateTime>
 
-/// The calendar on the user's desk.
+/// The clock and the calendar on the user's desk.
 class Clock {
  public:
   virtual ~Clock() = default;
 
-  [[nodiscard]] virtual QDate today() const = 0;
+  [[nodiscard]] virtual QDateTime now() const = 0;
+
+  [[nodiscard]] QDate today() const { return now().date(); }
 };
 
 class SystemClock : public Clock {
  public:
-  [[nodiscard]] QDate today() const override { return QDate::currentDate(); }
+  [[nodiscard]] QDateTime now() const override { return QDateTime::currentDateTime(); }
 };

@@ -7,6 +7,8 @@
 #include <QFileInfo>
 #include <QStringDecoder>
 
+#include "makers_addresses.h"
+
 namespace {
 
 // Positions in the file are 16-bit numbers, from 1.
@@ -20,12 +22,12 @@ struct BrandRow {
 
 // clang-format off
 constexpr std::array<BrandRow, 6> kRows{{
-    {"CompanyName",      &BrandValues::CompanyName,      "Ostrevane"},
-    {"CompanyURL",       &BrandValues::CompanyURL,       "https://www.ostrevane.example/"},
-    {"SupportEmail",     &BrandValues::SupportEmail,     "support@ostrevane.example"},
-    {"SupportURL",       &BrandValues::SupportURL,       "https://www.ostrevane.example/contact"},
-    {"SubscribeEmail",   &BrandValues::SubscribeEmail,   "subscribe@ostrevane.example"},
-    {"ErrorReportEmail", &BrandValues::ErrorReportEmail, "errors@ostrevane.example"},
+    {"CompanyName",      &BrandValues::CompanyName,      Maker::kCompanyName},
+    {"CompanyURL",       &BrandValues::CompanyURL,       Maker::kCompanyUrl},
+    {"SupportEmail",     &BrandValues::SupportEmail,     Maker::kSupportEmail},
+    {"SupportURL",       &BrandValues::SupportURL,       Maker::kSupportUrl},
+    {"SubscribeEmail",   &BrandValues::SubscribeEmail,   Maker::kSubscribeEmail},
+    {"ErrorReportEmail", &BrandValues::ErrorReportEmail, Maker::kErrorReportEmail},
 }};
 // clang-format on
 
@@ -62,6 +64,10 @@ void CCustomBrand::ReadFile() {
   if (!QFileInfo(m_path).isFile() || !file.open(QIODevice::ReadOnly)) return;
   m_text = textOf(file);
   m_isFound = file.error() == QFileDevice::NoError;
+}
+
+QString CCustomBrand::named(QString text) const {
+  return text.replace(QStringLiteral("Ostrevane"), m_values.CompanyName);
 }
 
 QString CCustomBrand::textOf(QIODevice& file) {

@@ -27,6 +27,9 @@ class CCustomBrand {
   /// The maker's values until `Load`.
   [[nodiscard]] const BrandValues& values() const { return m_values; }
 
+  /// A text of the program's with the company's name in place of the brand word, wherever it stands.
+  [[nodiscard]] QString named(QString text) const;
+
   /// The text of a file as far as values can lie in it: its lines joined with nothing between them, read as
   /// UTF-8, or as Latin-1 if it is not that.
   [[nodiscard]] static QString textOf(QIODevice& file);

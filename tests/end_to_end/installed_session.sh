@@ -14,7 +14,7 @@ beside=$(dirname "$(readlink -f "$program")")
 cp "$here/../../packaging/AppData.example" "$beside/AppData"
 
 step "it speaks the user's language"
-LANG=fr_CA.UTF-8 LANGUAGE=fr_CA start_program "Tessaloom pour eBay.com"
+LANG=fr_CA.UTF-8 LANGUAGE=fr_CA first_start "Rechercher des mises à jour" "Tessaloom pour eBay.com"
 press alt+a
 until_true 20 is_menu_open || fail "Alt+A opened no menu"
 grab root "$pictures/$picture.png" || fail "no picture could be taken"

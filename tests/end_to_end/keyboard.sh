@@ -74,6 +74,21 @@ start_program() {
   expect_title "$1"
 }
 
+# first_start QUESTION TITLE: the first start asks whether to look for updates, and is told not to.
+first_start() {
+  local question
+  start_program "$1" || return
+  question=$window
+  press Escape
+  until_true 20 has_window_after "$question" || fail "no window came after the question" || return
+  until_true 20 is_active || fail "the window did not become active" || return
+  expect_title "$2"
+}
+
+has_window_after() {
+  window=$(visible_window Tessaloom "$program_pid") && [[ $window != "$1" ]]
+}
+
 has_title() { [[ $(xdotool getwindowname "$window") == "$1" ]]; }
 
 expect_title() { until_true 20 has_title "$1" || fail "the window's title is \"$(xdotool getwindowname "$window")\""; }

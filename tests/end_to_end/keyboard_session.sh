@@ -8,7 +8,8 @@ source "$here/keyboard.sh"
 begin_session "$1" "$2" session
 
 step "start on a machine that has no settings yet"
-start_program "Tessaloom for eBay.com"
+first_start "Check for product updates" "Tessaloom for eBay.com"
+is_stored UpdateCheck=0 || fail "the answer was not stored"
 until_true 20 is_stored Site=1 || fail "the first start stored no site"
 
 step "an auction from 9.99 that closes at 25.00"

@@ -83,7 +83,7 @@ end_program
 
 step "a first start in German opens the German site"
 rm -f "$(store)"
-LANG=de_DE.UTF-8 LANGUAGE=de_DE start_program "Tessaloom für eBay Deutschland"
+LANG=de_DE.UTF-8 LANGUAGE=de_DE first_start "Nach Produkt-Updates suchen" "Tessaloom für eBay Deutschland"
 until_true 20 is_stored Site=4 || fail "the first start stored no site"
 is_stored PayPalGermanyRate=0.7854 || fail "the first start stored no rate"
 

@@ -4,39 +4,21 @@
 #include <QCoreApplication>
 #include <QtTest>
 
+#include "start.h"
 #include "tagged_strings.h"
 
-namespace {
-
-Localization::LanguageSurroundings languagesIn(QString folder, SettingsStore& settings,
-                                               MessageBox& messages) {
-  Localization::LanguageSurroundings surroundings = builtLanguages(settings, messages);
-  surroundings.programFolder = std::move(folder);
-  return surroundings;
-}
-
-}  // namespace
-
-Calculator::Calculator(NumberLocale locale, int site, QString languageFolder)
-    : languages(languagesIn(std::move(languageFolder), settings, messages)), m_site(site) {
+Calculator::Calculator(NumberLocale numberLocale, int site, const QString& languageFolder)
+    : RecordingWorld(languageFolder), m_site(site) {
+  locale = std::move(numberLocale);
+  programFolder = QCoreApplication::applicationDirPath();
   languages.InitLanguage();
-  m_window =
-      std::make_unique<frmeBayFees>(Surroundings{.settings = settings,
-                                                 .messages = messages,
-                                                 .languages = languages,
-                                                 .brand = brand,
-                                                 .programs = starter,
-                                                 .stacking = stacking,
-                                                 .printer = printer,
-                                                 .clock = clock,
-                                                 .locale = std::move(locale),
-                                                 .programFolder = QCoreApplication::applicationDirPath()});
+  m_window = std::make_unique<frmeBayFees>(surroundings());
 }
 
 Calculator::~Calculator() { Localization::setLanguageObject(nullptr); }
 
 void Calculator::load() {
-  m_window->Initialize(std::make_shared<CStartStatus>(settings));
+  m_window->Initialize(Start::newStartStatus(surroundings()));
   m_window->Form_Load();
   m_window->activateWindow();
   if (!QTest::qWaitForWindowActive(m_window.get()))
@@ -111,15 +93,6 @@ void Calculator::speak(const QString& language) {
     if (isEnglish || entry->text() == language) return entry->trigger();
   }
   throw std::runtime_error("the menu has no language " + language.toStdString());
-}
-
-Localization::LanguageSurroundings builtLanguages(SettingsStore& settings, MessageBox& messages,
-                                                  const QString& userCode) {
-  return {.settings = settings,
-          .messages = messages,
-          .programFolder = QStringLiteral(LANGUAGE_FOLDER),
-          .programName = QStringLiteral("Tessaloom"),
-          .userCode = userCode};
 }
 
 void letItSettle() {

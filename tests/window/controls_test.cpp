@@ -294,12 +294,6 @@ class ControlsTest : public QObject {
     QVERIFY(place("cmdNotepad") < place("txtNotes"));
   }
 
-  void whatHasNoBehaviourYetIsDisabled() {
-    for (const char* name : {"mnuHelpContents", "mnuHelpAbout"}) {
-      QVERIFY2(!m_loaded.find<QAction>(name).isEnabled(), name);
-    }
-  }
-
  public:
   ControlsTest() { m_loaded.load(); }
 

@@ -9,29 +9,13 @@
 
 namespace {
 
-struct LoudWindow {
-  RecordingMessages messages;
-  MemorySettings settings;
-  RecordingStarter starter;
-  RecordingStacking stacking;
-  RecordingPrinter printer;
-  FixedClock clock;
-  Localization::LanguageChoice languages{builtLanguages(settings, messages)};
-  CCustomBrand brand{QString()};
-
-  Surroundings surroundings() {
-    return {.settings = settings,
-            .messages = messages,
-            .languages = languages,
-            .brand = brand,
-            .programs = starter,
-            .stacking = stacking,
-            .printer = printer,
-            .clock = clock,
-            .locale = kPointLocale,
-            .programFolder = {}};
-  }
-};
+/// Presses a button of the next modal window, once it is there.
+void answerWith(const char* button) {
+  QTimer::singleShot(0, qApp, [button] {
+    const QWidget* prompt = QApplication::activeModalWidget();
+    if (prompt != nullptr) prompt->findChild<QPushButton*>(QString::fromLatin1(button))->click();
+  });
+}
 
 bool failToLoad() { return false; }
 
@@ -63,7 +47,7 @@ class LifeCycleTest : public QObject {
   void cleanup() { Localization::setLanguageObject(nullptr); }
 
   void withoutTextsThereIsOneErrorBoxAndNoWindow() {
-    LoudWindow world;
+    RecordingWorld world;
     QVERIFY(Start::Main(world.surroundings(), failToLoad) == nullptr);
     QCOMPARE(world.messages.shown.size(), 1);
     QCOMPARE(world.messages.shown[0].first, QStringLiteral("Error"));
@@ -75,7 +59,8 @@ class LifeCycleTest : public QObject {
   }
 
   void theApplicationIsNamedInTheChosenLanguage() {
-    LoudWindow world;
+    RecordingWorld world;
+    answerWith("cmdDoNotCheck");
     const auto window = Start::Main(world.surroundings(), loadGermanTitle);
     QVERIFY(window->isVisible());
     QCOMPARE(QCoreApplication::applicationName(), QStringLiteral("Tessaloom DE"));
@@ -83,14 +68,16 @@ class LifeCycleTest : public QObject {
   }
 
   void theFirstRunWritesItsDefaultsBeforeAnythingIsRestored() {
-    LoudWindow world;
+    RecordingWorld world;
+    answerWith("cmdDoNotCheck");
     const auto window = Start::Main(world.surroundings(), speakEnglish);
     QCOMPARE(world.settings.calls.value(0), QStringLiteral("read Site"));  // is this the first run?
-    QCOMPARE(world.settings.calls.value(1), QStringLiteral("write Site=1"));
+    QCOMPARE(world.settings.calls.value(1), QStringLiteral("write UpdateCheck=0"));
+    QCOMPARE(world.settings.calls.value(2), QStringLiteral("write Site=1"));
   }
 
   void aLaterRunWritesNoDefaults() {
-    LoudWindow world;
+    RecordingWorld world;
     world.settings.values[QStringLiteral("Site")] = QStringLiteral("1");
     const auto window = Start::Main(world.surroundings(), speakEnglish);
     for (const QString& call : world.settings.calls) QVERIFY2(!call.startsWith(u"write"), qPrintable(call));
@@ -209,11 +196,11 @@ class LifeCycleTest : public QObject {
 
   void newWindowStartsTheProgramOfTheFixedName() {
     QTemporaryDir folder;
-    LoudWindow world;
+    RecordingWorld world;
     Surroundings surroundings = world.surroundings();
     surroundings.programFolder = folder.path();
     frmeBayFees window(surroundings);
-    window.Initialize(std::make_shared<CStartStatus>(world.settings));
+    window.Initialize(Start::newStartStatus(surroundings));
     window.Form_Load();
     auto* newWindow = window.findChild<QAction*>(QStringLiteral("mnuFileNewWindow"));
     newWindow->trigger();
@@ -230,7 +217,8 @@ class LifeCycleTest : public QObject {
   void theNumberFormatIsProbedAtTheStart() {
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Switzerland));
-    LoudWindow world;
+    RecordingWorld world;
+    world.settings.values[QStringLiteral("Site")] = QStringLiteral("1");
     const auto window = Start::Main(world.surroundings(), speakEnglish);
     QLocale::setDefault(before);
     QCOMPARE(CStartStatus::ConvNumFormat(QStringLiteral("1,000")), QStringLiteral("1'000"));

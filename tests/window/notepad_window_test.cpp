@@ -6,6 +6,8 @@
 
 #include "calculator.h"
 
+#include "start.h"
+
 namespace {
 
 const QString kRule = QString(50, u'-');
@@ -504,17 +506,9 @@ class NotepadWindowTest : public QObject {
 
   /// Another window, with the same surroundings but for the printer.
   std::unique_ptr<frmeBayFees> openWith(NotePrinter& printer) {
-    auto window = std::make_unique<frmeBayFees>(Surroundings{.settings = m_calculator->settings,
-                                                             .messages = m_calculator->messages,
-                                                             .languages = m_calculator->languages,
-                                                             .brand = m_calculator->brand,
-                                                             .programs = m_calculator->starter,
-                                                             .stacking = m_calculator->stacking,
-                                                             .printer = printer,
-                                                             .clock = m_calculator->clock,
-                                                             .locale = kPointLocale,
-                                                             .programFolder = {}});
-    window->Initialize(std::make_shared<CStartStatus>(m_calculator->settings));
+    const Surroundings surroundings = m_calculator->surroundingsWith(m_calculator->settings, printer);
+    auto window = std::make_unique<frmeBayFees>(surroundings);
+    window->Initialize(Start::newStartStatus(surroundings));
     window->Form_Load();
     return window;
   }

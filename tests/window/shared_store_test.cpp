@@ -7,6 +7,8 @@
 
 #include "calculator.h"
 
+#include "start.h"
+
 namespace {
 
 // A seller of this test writes one price and one rate, so that every value in the store tells whose it is.
@@ -16,20 +18,11 @@ constexpr int kKills = 200;
 /// A window with the real store that saves and switches sites, round after round.
 class Seller {
  public:
-  explicit Seller(QString figure)
-      : m_figure(std::move(figure)), m_languages(builtLanguages(m_settings, m_messages)) {
-    m_languages.InitLanguage();
-    m_window = std::make_unique<frmeBayFees>(Surroundings{.settings = m_settings,
-                                                          .messages = m_messages,
-                                                          .languages = m_languages,
-                                                          .brand = m_brand,
-                                                          .programs = m_starter,
-                                                          .stacking = m_stacking,
-                                                          .printer = m_printer,
-                                                          .clock = m_clock,
-                                                          .locale = kPointLocale,
-                                                          .programFolder = {}});
-    m_window->Initialize(std::make_shared<CStartStatus>(m_settings));
+  explicit Seller(QString figure) : m_figure(std::move(figure)) {
+    m_world.languages.InitLanguage();
+    const Surroundings surroundings = m_world.surroundingsWith(m_settings, m_world.printer);
+    m_window = std::make_unique<frmeBayFees>(surroundings);
+    m_window->Initialize(Start::newStartStatus(surroundings));
     m_window->Form_Load();
   }
 
@@ -46,7 +39,7 @@ class Seller {
   /// Whether nothing was complained about.
   [[nodiscard]] bool isContent() {
     letItSettle();
-    return m_messages.shown.isEmpty();
+    return m_world.messages.shown.isEmpty();
   }
 
  private:
@@ -57,13 +50,7 @@ class Seller {
 
   QString m_figure;
   UserSettings m_settings;
-  RecordingMessages m_messages;
-  RecordingStarter m_starter;
-  RecordingStacking m_stacking;
-  RecordingPrinter m_printer;
-  FixedClock m_clock;
-  Localization::LanguageChoice m_languages;
-  CCustomBrand m_brand{QString()};
+  RecordingWorld m_world;
   std::unique_ptr<frmeBayFees> m_window;
 };
 

@@ -1,0 +1,50 @@
+#include "debug_log_file.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QSaveFile>
+
+namespace {
+
+/// Longer texts are cut: a line must leave room for others.
+constexpr qsizetype kLongestText = 16'000;
+
+/// One line of UTF-8 without its end.
+QByteArray lineOf(const QDateTime& time, const QString& version, QString text) {
+  text.truncate(kLongestText);
+  text.replace(u'\\', QStringLiteral("\\\\"));
+  text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+  text.replace(u'\n', QStringLiteral("\\n")).remove(QChar::Null);
+  const QString stamp = time.toOffsetFromUtc(time.offsetFromUtc()).toString(Qt::ISODate);
+  return QString(stamp + u' ' + version + u' ' + text).toUtf8();
+}
+
+/// The newer half of the log, in whole lines, takes the place of the log.
+void dropOlderHalf(const QString& path) {
+  QFile log(path);
+  if (!log.open(QIODevice::ReadOnly)) return;
+  log.seek(log.size() - DebugLogFile::kLargestSize / 2);
+  log.readLine();  // the rest of a line
+  const QByteArray newer = log.readAll();
+  log.close();
+  QSaveFile shorter(path);
+  if (shorter.open(QIODevice::WriteOnly) && shorter.write(newer) == newer.size()) shorter.commit();
+}
+
+}  // namespace
+
+DebugLogFile::DebugLogFile(const QString& folder)
+    : m_path(QDir(folder).filePath(QStringLiteral("MasterDebugLog.txt"))) {}
+
+void DebugLogFile::append(const QDateTime& time, const QString& version, const QString& text) const {
+  constexpr int patience = 200;  // milliseconds, for another window that writes
+  if (!QDir().mkpath(QFileInfo(m_path).path())) return;
+  QLockFile lock(m_path + QStringLiteral(".lock"));
+  if (!lock.tryLock(patience)) return;
+  const QByteArray line = lineOf(time, version, text) + '\n';
+  if (QFileInfo(m_path).size() + line.size() >= kLargestSize) dropOlderHalf(m_path);
+  QFile log(m_path);
+  if (log.open(QIODevice::WriteOnly | QIODevice::Append)) log.write(line);
+}

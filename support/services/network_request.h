@@ -1,0 +1,36 @@
+#pragma once
+
+#include <memory>
+#include <QByteArray>
+#include <QNetworkAccessManager>
+#include <QTimer>
+
+#include "web_request.h"
+
+class QNetworkReply;
+
+/// Asks over the network: HTTP GET, ten seconds at most for all of it. Certificates are checked as the system
+/// says; a redirection is followed only from https to https, and not for ever. Of an answer the first 32767
+/// characters are read, as UTF-8, or as Latin-1 if they are not that. Nothing of the network is touched
+/// before the first question.
+class NetworkRequest : public QObject, public WebRequest {
+  Q_OBJECT
+
+ public:
+  NetworkRequest() = default;
+  ~NetworkRequest() override { cancel(); }
+
+  void get(const QUrl& address, Answered answered) override;
+  void cancel() override;
+
+ private:
+  void read();
+  void judgeRedirection(const QUrl& target);
+  void finish(bool isUsable);
+
+  std::unique_ptr<QNetworkAccessManager> m_network;
+  QNetworkReply* m_reply = nullptr;
+  QTimer m_patience;
+  QByteArray m_bytes;
+  Answered m_answered;
+};

@@ -51,8 +51,9 @@ class SumReader {
 
   std::string readDigits() {
     skipBlanks();
-    const std::size_t end = std::min(m_rest.find_first_not_of("0123456789" + m_locale.decimal), m_rest.size());
-    const std::string digits(m_rest.substr(0, end));
+    const std::size_t end =
+        std::min(m_rest.find_first_not_of("0123456789" + m_locale.decimal), m_rest.size());
+    std::string digits(m_rest.substr(0, end));
     if (!isNumeric(digits, m_locale)) throw std::runtime_error("no number before: " + std::string(m_rest));
     m_rest.remove_prefix(end);
     return digits;

@@ -9,6 +9,6 @@ struct PrintedSum {
   std::string result;  ///< what the page says it comes to
 };
 
-/// Works a printed sum out. Numbers may carry a percent sign; the signs are + − × ÷, and × and ÷ bind tighter.
-/// Throws std::runtime_error for what is no sum.
+/// Works a printed sum out. Numbers may carry a percent sign; the signs are + − × ÷, and × and ÷ bind
+/// tighter. Throws std::runtime_error for what is no sum.
 PrintedSum workOut(std::string_view printed, std::string_view decimal);

@@ -5,8 +5,8 @@
 #include "string_table.h"
 
 /// \file
-/// The captions that the help pages quote are those of the program: each is marked with the number of its text.
-/// Left out of a quotation are the "&" of the mnemonic, blanks at the ends, and a colon at the end.
+/// The captions that the help pages quote are those of the program: each is marked with the number of its
+/// text. Left out of a quotation are the "&" of the mnemonic, blanks at the ends, and a colon at the end.
 
 namespace {
 
@@ -21,7 +21,8 @@ class HelpCaptions : public testing::TestWithParam<HelpPage> {};
 TEST_P(HelpCaptions, AreThoseOfTheProgram) {
   const Element page = parsePage(sourceOf(GetParam()));
   const bool isGerman = std::string(GetParam().language) == "de";
-  const auto german = Localization::loadLanguageLibrary(QStringLiteral(LANGUAGE_FOLDER "/TessaloomLang407.dll"));
+  const auto german =
+      Localization::loadLanguageLibrary(QStringLiteral(LANGUAGE_FOLDER "/TessaloomLang407.dll"));
   ASSERT_TRUE(german);
   const auto captions = elementsWith(page, "data-text");
   EXPECT_GT(captions.size(), 200U);

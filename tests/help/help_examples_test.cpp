@@ -10,8 +10,9 @@
 #include "single_item_tab.h"
 
 /// \file
-/// The worked examples of the help pages: what a page says that the window shows is what the tab's own function
-/// shows for the same entries, in the page's decimal sign, and every printed sum comes to what it says.
+/// The worked examples of the help pages: what a page says that the window shows is what the tab's own
+/// function shows for the same entries, in the page's decimal sign, and every printed sum comes to what it
+/// says.
 
 namespace {
 
@@ -48,7 +49,8 @@ void enter(const Element& example, const Controls& controls) {
   for (const Element* cell : elementsWith(example, "data-tick")) {
     // The other option of a pair is what is left when this one is not chosen.
     const std::string name = cell->attribute("data-tick");
-    if (name == "optPayPalStandard" || name == "optPayPalNonCreditCard" || name == "optOtherVehicle") continue;
+    if (name == "optPayPalStandard" || name == "optPayPalNonCreditCard" || name == "optOtherVehicle")
+      continue;
     ASSERT_TRUE(controls.flags.contains(name)) << name;
     *controls.flags.at(name) = true;
   }

@@ -9,7 +9,7 @@ namespace {
 
 bool isBlank(char c) { return c == ' ' || c == '\n' || c == '\t' || c == '\r'; }
 
-bool isVoid(std::string_view tag) { return tag == "meta" || tag == "br" || tag == "hr"; }
+bool isVoid(std::string_view tag) { return tag == "meta" || tag == "br" || tag == "wbr"; }
 
 /// One pass over the source.
 class PageReader {
@@ -42,7 +42,7 @@ class PageReader {
   std::string takeUntil(std::string_view signs) {
     const std::size_t end = m_rest.find_first_of(signs);
     if (end == std::string_view::npos) fail("the page ends too early");
-    const std::string taken(m_rest.substr(0, end));
+    std::string taken(m_rest.substr(0, end));
     m_rest.remove_prefix(end);
     return taken;
   }

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-/// An element of a help page: its tag, its attributes, the text in it and in all that it contains, and what it
-/// contains.
+/// An element of a help page: its tag, its attributes, the text in it and in all that it contains, and what
+/// it contains.
 struct Element {
   std::string tag;
   std::map<std::string, std::string> attributes;

@@ -6,7 +6,8 @@
 #include "payment_service.h"
 
 /// \file
-/// The prices of the help pages, each marked with its site and the name of a figure, are those of the schedule.
+/// The prices of the help pages, each marked with its site and the name of a figure, are those of the
+/// schedule.
 
 namespace {
 

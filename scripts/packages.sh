@@ -7,9 +7,10 @@ RUN_PACKAGES=(cmake ninja-build g++ qt6-base-dev qt6-tools-dev qt6-l10n-tools li
 # What a virtual display needs: the server, a window manager, the questions asked to both, the screenshot.
 DISPLAY_PACKAGES=(xvfb openbox x11-utils xdotool imagemagick)
 
-# What ./test needs beyond that: test and benchmark libraries, and for the end-to-end tests the clipboard, a print
-# server with the filters and the printer that a job passes, and what reads the printed pages.
-TEST_PACKAGES=(libgtest-dev libbenchmark-dev xclip
+# What ./test needs beyond that: test and benchmark libraries, what judges the help pages, and for the end-to-end
+# tests the clipboard, a print server with the filters and the printer that a job passes, and what reads the
+# printed pages.
+TEST_PACKAGES=(libgtest-dev libbenchmark-dev tidy xclip
   cups-daemon cups-client cups-filters printer-driver-cups-pdf poppler-utils)
 
 # What .ci/run needs beyond that: the fuzz targets' compiler, format, tidy and script checks.

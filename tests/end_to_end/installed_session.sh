@@ -12,6 +12,9 @@ cmake --install "$(dirname "$program")/.." --prefix "$folder/prefix" > "$folder/
 program=$folder/prefix/bin/Tessaloom
 beside=$(dirname "$(readlink -f "$program")")
 cp "$here/../../packaging/AppData.example" "$beside/AppData"
+for page in tessaloom_help.htm marrowfeld_hilfe.htm; do
+  cmp "$here/../../help/$page" "$beside/$page" || fail "$page is not beside the program"
+done
 
 step "it speaks the user's language"
 LANG=fr_CA.UTF-8 LANGUAGE=fr_CA first_start "Rechercher des mises à jour" "Tessaloom pour eBay.com"

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -35,6 +36,9 @@ struct HelpPage {
   const char* file;
   const char* language;
   std::string decimal;
+
+  /// How GoogleTest shows it.
+  friend void PrintTo(const HelpPage& page, std::ostream* out) { *out << page.file; }
 };
 
 /// The English and the German page.

@@ -2,8 +2,8 @@
 
 #include "amount_text.h"
 #include "auction_site.h"
+#include "fee_schedule.h"
 #include "help_page.h"
-#include "payment_service.h"
 
 /// \file
 /// The prices of the help pages, each marked with its site and the name of a figure, are those of the
@@ -18,10 +18,17 @@ constexpr bool kMotorcycle = true;
 constexpr bool kTimeshare = true;
 constexpr bool kSeveral = true;
 constexpr bool kMotors = true;
+constexpr float kNoPrice = 0.0F;
 constexpr float kSmallPrice = 1.0F;
 constexpr float kLargePrice = 1e6F;
 
 float perCent(float rate) { return storedAsSingle(static_cast<double>(rate) * 100.0); }
+
+/// A figure that no member of the site answers by itself: as it stands in the schedule.
+float cell(Figure figure, Site site) {
+  const auto column = static_cast<std::size_t>(site.Site() - 1);
+  return static_cast<float>(kFeeSchedule.at(static_cast<std::size_t>(figure)).sites.at(column).value);
+}
 
 // clang-format off
 const std::map<std::string, float (*)(Site)> kFigures{
@@ -78,8 +85,15 @@ const std::map<std::string, float (*)(Site)> kFigures{
     {"VehicleGalleryFeatured",     [](Site s) { return s.GalleryFeaturedFee(kMotors, kVehicle); }},
     {"MotorsGalleryFeatured",      [](Site s) { return s.GalleryFeaturedFee(kMotors, !kVehicle); }},
     {"VehicleSaleMotorcycle",      [](Site s) { return s.VehicleFVF(kMotorcycle, kSmallPrice); }},
-    {"VehicleSale",                [](Site s) { return s.VehicleFVF(!kMotorcycle, kSmallPrice); }},
+    {"VehicleSale",                [](Site s) { return s.VehicleFVF(!kMotorcycle, kNoPrice); }},
     {"VehicleSaleHigh",            [](Site s) { return s.VehicleFVF(!kMotorcycle, kLargePrice); }},
+    {"VehicleSaleShare",           [](Site s) { return perCent(cell(Figure::VehicleSaleShare, s)); }},
+    {"VehicleSaleShareFrom",       [](Site s) { return cell(Figure::VehicleSaleShareFrom, s); }},
+    {"VehicleSaleHighestFrom",     [](Site s) { return cell(Figure::VehicleSaleHighestFrom, s); }},
+    {"ReserveSecondTierShare",     [](Site s) { return perCent(cell(Figure::ReserveSecondTierShare, s)); }},
+    {"ReserveThirdTierShare",      [](Site s) { return perCent(cell(Figure::ReserveThirdTierShare, s)); }},
+    {"PayPalFlatFee",              [](Site s) { return s.PayPalFlatFee(); }},
+    {"PayPalMaxFeeNonCC",          [](Site s) { return s.PayPalMaxFeeNonCC(); }},
     {"EstateTimeshare0",           [](Site s) { return s.RealEstateInsertionFee(kTimeshare, 0); }},
     {"EstateTimeshare1",           [](Site s) { return s.RealEstateInsertionFee(kTimeshare, 1); }},
     {"EstateTimeshare2",           [](Site s) { return s.RealEstateInsertionFee(kTimeshare, 2); }},

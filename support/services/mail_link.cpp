@@ -35,7 +35,7 @@ QByteArray encoded(const QString& text) { return encodedCharacters(text).join();
 QByteArray fittingBody(const QString& body, qsizetype room) {
   // No character takes less than one byte: what lies beyond need not be looked at.
   const QByteArrayList characters = encodedCharacters(body.left(kLongestMailLink + 1));
-  if (const QByteArray whole = characters.join(); whole.size() <= room) return whole;
+  if (QByteArray whole = characters.join(); whole.size() <= room) return whole;
   const QByteArray note = encoded(kCutHere);
   QByteArray kept;
   for (const QByteArray& character : characters) {

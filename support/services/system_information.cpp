@@ -13,7 +13,7 @@ QString MsInfo::programPath(const ReadValue& readValue, const FileExists& fileEx
   const QString tools = QStringLiteral("SOFTWARE\\Microsoft\\Shared Tools");
   if (const auto path = readValue(tools + QStringLiteral("\\MSINFO"), QStringLiteral("PATH"))) return *path;
   if (const auto folder = readValue(tools + QStringLiteral(" Location"), QStringLiteral("MSINFO"))) {
-    const QString path = *folder + QStringLiteral("\\MSINFO32.EXE");
+    QString path = *folder + QStringLiteral("\\MSINFO32.EXE");
     if (fileExists(path)) return path;
   }
   return {};

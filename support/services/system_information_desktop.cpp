@@ -13,7 +13,7 @@ constexpr std::array<const char*, 5> kTools{"kinfocenter", "hardinfo2", "hardinf
 
 QString InstalledSystemInformation::programPath() {
   for (const char* tool : kTools) {
-    if (const QString path = QStandardPaths::findExecutable(QString::fromLatin1(tool)); !path.isEmpty())
+    if (QString path = QStandardPaths::findExecutable(QString::fromLatin1(tool)); !path.isEmpty())
       return path;
   }
   return {};

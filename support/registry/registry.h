@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "registry_backend.h"
+
+/// An operation that failed: its number, 11001 to 11008, and as the text its name.
+class RegistryError : public std::runtime_error {
+ public:
+  RegistryError(int number, const char* operation) : std::runtime_error(operation), m_number(number) {}
+
+  [[nodiscard]] int number() const { return m_number; }
+  [[nodiscard]] const char* source() const { return "clsRegistry"; }
+  [[nodiscard]] const char* description() const { return what(); }
+
+ private:
+  int m_number;
+};
+
+/// What is written or read: a text, or a 32-bit number. The bytes of a binary value are a text.
+using RegistryValue = std::variant<std::string, std::int32_t>;
+
+/// Writes, reads, lists and deletes keys and values of the registry. `root` is a predefined key, `keyPath`
+/// the way from there, of which one leading "\" is dropped. With a `computer` the operation first connects to
+/// that machine. Whatever an operation opens it closes, also when it fails with a RegistryError.
+///
+/// It knows no key of the program, and the user's settings do not go through it. Names and texts are bytes in
+/// the user's code page on Windows, and UTF-8 elsewhere.
+class CRegistry {
+ public:
+  /// `backend` must outlive the object.
+  explicit CRegistry(RegistryBackend& backend) : m_backend(backend) {}
+
+  /// Writes a new value as text, and an existing one in its own type: text, number, or as binary the decimal
+  /// text of a byte. A value of another type is left as it is. Always true; 11001 if the key cannot be
+  /// opened, the value does not fit the type, or the write fails.
+  bool SetValue(RegistryHandle root, std::string_view keyPath, const std::string& valueName,
+                const RegistryValue& value, const std::string& computer = {});
+
+  /// A text up to its first zero, a number, or all bytes of a binary value. 11002 if the value is missing or
+  /// has another type.
+  [[nodiscard]] RegistryValue GetValue(RegistryHandle root, std::string_view keyPath,
+                                       const std::string& valueName, const std::string& computer = {});
+
+  /// The name of the index-th key below, from 0. 11003 past the last one.
+  [[nodiscard]] std::string ListSubKey(RegistryHandle root, std::string_view keyPath, std::uint32_t index,
+                                       const std::string& computer = {});
+
+  /// Whether the value was there and is deleted. 11004 if the key cannot be opened.
+  bool DeleteValue(RegistryHandle root, std::string_view keyPath, const std::string& valueName,
+                   const std::string& computer = {});
+
+  /// Whether the key is there now. 11005 if the machine cannot be reached.
+  bool CreateKey(RegistryHandle root, std::string_view keyPath, const std::string& computer = {});
+
+  /// Whether the key was there and is deleted; one with keys below it is not. 11006 if the machine cannot be
+  /// reached.
+  bool DeleteKey(RegistryHandle root, std::string_view keyPath, const std::string& computer = {});
+
+  /// The name of the index-th value, from 0. 11007 past the last one.
+  [[nodiscard]] std::string ListSubValue(RegistryHandle root, std::string_view keyPath, std::uint32_t index,
+                                         const std::string& computer = {});
+
+  /// False if there is no such key. 11008 if that cannot be told.
+  [[nodiscard]] bool KeyExists(RegistryHandle root, std::string_view keyPath,
+                               const std::string& computer = {});
+
+ private:
+  RegistryBackend& m_backend;
+};

@@ -25,13 +25,13 @@ mapfile -t all < <(printf '*.h\n*.cpp\n')
 refuse "Includes go by the include roots of the libraries, not by way of the folders" \
   '^\s*#\s*include\s*"[^"]*\.\./' "${all[@]}"
 
-mapfile -t amounts < <(for folder in fee_model window cli; do sources_of "$folder"; done)
-refuse "Amounts depend on the locale that is handed in, not on the process's (see fee_model/amount_text.h)" \
+mapfile -t amounts < <(for folder in fee_model window cli support/registry; do sources_of "$folder"; done)
+refuse "Numbers depend on the locale that is handed in, or on none, not on the process's (see fee_model/amount_text.h)" \
   '\bstd::(to_string|to_wstring|sto(i|l|ll|ul|ull|f|d|ld)|locale|setlocale|put_money|get_money)\b|\b(s|sn|f|v|vs|vsn|vf)?(print|scan)f\s*\(|\b(ato(f|i|l|ll)|strto(d|f|ld|l|ul|ll|ull)|toupper|tolower|isdigit|isspace|isalpha)\s*\(' \
   "${amounts[@]}"
 
-mapfile -t model < <(for folder in fee_model cli; do sources_of "$folder"; done)
-refuse "The fee model and the companion command use the standard library alone" \
+mapfile -t model < <(for folder in fee_model cli support/registry; do sources_of "$folder"; done)
+refuse "The fee model, the companion command and the registry know nothing of Qt" \
   '^\s*#\s*include\s*[<"]Q' "${model[@]}"
 
 mapfile -t below < <(for folder in fee_model cli localization support notepad; do sources_of "$folder"; done)

@@ -2,7 +2,8 @@
 # Sourced by run, test and .ci/run: installs the Debian packages that are missing, and says so.
 
 # What building and running the calculator needs; its links are opened by xdg-utils.
-RUN_PACKAGES=(cmake ninja-build g++ qt6-base-dev qt6-tools-dev qt6-l10n-tools libcups2-dev librsvg2-bin xdg-utils)
+RUN_PACKAGES=(cmake ninja-build g++ qt6-base-dev qt6-tools-dev qt6-l10n-tools libcups2-dev librsvg2-bin
+  nlohmann-json3-dev xdg-utils)
 
 # What a virtual display needs: the server, a window manager, the questions asked to both, the screenshot.
 DISPLAY_PACKAGES=(xvfb openbox x11-utils xdotool imagemagick)
@@ -15,6 +16,9 @@ TEST_PACKAGES=(libgtest-dev libbenchmark-dev tidy xclip
 
 # What .ci/run needs beyond that: the fuzz targets' compiler, format, tidy and script checks.
 CI_PACKAGES=(clang libclang-rt-14-dev clang-format clang-tidy shellcheck git)
+
+# What .ci/run needs to build for Windows and to run that: the compiler, Windows, the sources of the test library.
+WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix wine64 libgtest-dev)
 
 # ensure_packages WHY PACKAGE...: one question to dpkg when everything is there, one line and apt when not.
 ensure_packages() {

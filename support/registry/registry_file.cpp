@@ -88,7 +88,7 @@ class FileRegistry : public RegistryBackend {
   RegistryStatus pathOf(RegistryHandle parent, const std::string& path, KeyPath& names) const;
   RegistryStatus openIn(const RegistryTree& tree, const KeyPath& names, RegistryHandle& key);
   RegistryStatus load(RegistryTree& tree) const;
-  RegistryStatus store(const RegistryTree& tree) const;
+  [[nodiscard]] RegistryStatus store(const RegistryTree& tree) const;
   RegistryStatus ask(const std::function<RegistryStatus(const RegistryTree&)>& question) const;
   RegistryStatus change(const std::function<RegistryStatus(RegistryTree&)>& act) const;
 
@@ -101,7 +101,8 @@ class FileRegistry : public RegistryBackend {
   }
 
   template <typename Member, typename... Arguments>
-  RegistryStatus changeOf(RegistryHandle key, Member member, const Arguments&... arguments) const {
+  [[nodiscard]] RegistryStatus changeOf(RegistryHandle key, Member member,
+                                        const Arguments&... arguments) const {
     const auto at = m_open.find(key);
     if (at == m_open.end()) return RegistryStatus::InvalidHandle;
     return change([&](RegistryTree& tree) { return std::invoke(member, tree, at->second, arguments...); });

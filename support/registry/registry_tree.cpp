@@ -43,8 +43,28 @@ auto named(Members& members, const std::string& name) {
 
 Node emptyKey() { return {{kValues, Node::object()}, {kKeys, Node::object()}}; }
 
-bool isByte(const Node& node) {
-  return node.is_number_unsigned() && node.get<std::uint64_t>() <= std::numeric_limits<unsigned char>::max();
+constexpr std::string_view kHexDigits = "0123456789abcdef";
+
+bool isHex(const Node& node) {
+  if (!node.is_string()) return false;
+  const auto& text = node.get_ref<const std::string&>();
+  return text.size() % 2 == 0 && text.find_first_not_of(kHexDigits) == std::string::npos;
+}
+
+std::string toHex(std::string_view data) {
+  std::string text;
+  for (const char byte : data) {
+    const auto number = static_cast<unsigned char>(byte);
+    text += {kHexDigits[number / kHexDigits.size()], kHexDigits[number % kHexDigits.size()]};
+  }
+  return text;
+}
+
+std::string fromHex(std::string_view text) {
+  std::string data;
+  for (; !text.empty(); text.remove_prefix(2))
+    data += static_cast<char>(kHexDigits.find(text[0]) * kHexDigits.size() + kHexDigits.find(text[1]));
+  return data;
 }
 
 bool isType(const Node& node) {
@@ -54,8 +74,7 @@ bool isType(const Node& node) {
 bool isValue(const Node& node) {
   if (!node.is_object() || !node.contains(kType) || !isType(node[kType])) return false;
   if (node.contains(kText)) return node[kText].is_string();
-  if (!node.contains(kBytes) || !node[kBytes].is_array()) return false;
-  return std::all_of(node[kBytes].begin(), node[kBytes].end(), isByte);
+  return node.contains(kBytes) && isHex(node[kBytes]);
 }
 
 /// Whether all members of that section pass the check, and it has no name twice.
@@ -85,20 +104,16 @@ bool isPlainText(RegistryType type, const std::string& data) {
 
 Node valueOf(RegistryType type, const std::string& data) {
   Node value{{kType, static_cast<std::uint32_t>(type)}};
-  if (isPlainText(type, data)) {
+  if (isPlainText(type, data))
     value[kText] = data.substr(0, data.size() - 1);
-    return value;
-  }
-  Node& bytes = value[kBytes] = Node::array();
-  for (const char byte : data) bytes.push_back(static_cast<unsigned char>(byte));
+  else
+    value[kBytes] = toHex(data);
   return value;
 }
 
 std::string dataOf(const Node& value) {
   if (value.contains(kText)) return value[kText].get<std::string>() + '\0';
-  std::string data;
-  for (const Node& byte : value[kBytes]) data.push_back(static_cast<char>(byte.get<unsigned char>()));
-  return data;
+  return fromHex(value[kBytes].get_ref<const std::string&>());
 }
 
 /// The key at the end of the path, or null. As a template for a document that may change and for one that may

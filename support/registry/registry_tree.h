@@ -13,7 +13,7 @@ using KeyPath = std::vector<std::string>;
 
 /// The keys and values of a registry as they stand in its file. A key is {"values": {...}, "keys": {...}},
 /// and so is the document, whose keys are the roots; a value is {"type": 1, "text": "..."}, or {"type": 3,
-/// "bytes": [...]} where its data are no text. Names are alike whatever their case (that of ASCII letters),
+/// "bytes": "00ff"} where its data are no text. Names are alike whatever their case (that of ASCII letters),
 /// and keep their first spelling; they are listed in the order in which they came.
 class RegistryTree {
  public:

@@ -57,8 +57,8 @@ struct PathRow {
 
 constexpr PathRow kPathRows[] = {
     {"none in front", "A\\B", "A\\B"},
-    {"one in front is dropped", "\\A\\B", "A\\B"},
-    {"of two in front one is dropped", "\\\\A\\B", "\\A\\B"},
+    {"one in front is dropped", R"(\A\B)", R"(A\B)"},
+    {"of two in front one is dropped", R"(\\A\B)", R"(\A\B)"},
     {"one behind stays", "A\\B\\", "A\\B\\"},
     {"the root itself", "", ""},
     {"the root itself, with one in front", "\\", ""},

@@ -30,7 +30,7 @@ class RegistryConformance : public ::testing::Test {
   }
 
   void deleteAllBelow(const std::string& path) {
-    for (const std::string& name : subKeys(path)) deleteAllBelow(path + "\\" + name);
+    for (const std::string& name : subKeys(path)) deleteAllBelow(std::string(path).append("\\").append(name));
     registry.DeleteKey(kUserRoot, path);
   }
 

@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 using namespace std::string_literals;
 
 class RegistryFile : public ::testing::Test {
- protected:
+ public:
   RegistryFile() {
     std::string pattern = fs::temp_directory_path() / "registry_file_XXXXXX";
     folder = mkdtemp(pattern.data());
@@ -33,6 +33,7 @@ class RegistryFile : public ::testing::Test {
     fs::remove_all(folder, ignored);
   }
 
+ protected:
   void write(const std::string& content) const { std::ofstream(file, std::ios::binary) << content; }
 
   [[nodiscard]] std::string content() const {
@@ -181,14 +182,14 @@ const DamageRow kDamageRows[] = {
     {"a type of more than 32 bits",   userRoot(R"("v": {"type": 4294967296, "text": "Acme"})", "")},
     {"a value without data",          userRoot(R"("v": {"type": 1})", "")},
     {"a text that is a number",       userRoot(R"("v": {"type": 1, "text": 5})", "")},
-    {"bytes that are a text",         userRoot(R"("v": {"type": 3, "bytes": "Acme"})", "")},
-    {"a byte too large",              userRoot(R"("v": {"type": 3, "bytes": [256]})", "")},
-    {"a byte below zero",             userRoot(R"("v": {"type": 3, "bytes": [-1]})", "")},
+    {"bytes that are a list",         userRoot(R"("v": {"type": 3, "bytes": [1, 2]})", "")},
+    {"half a byte",                   userRoot(R"("v": {"type": 3, "bytes": "012"})", "")},
+    {"bytes that are no digits",      userRoot(R"("v": {"type": 3, "bytes": "0g"})", "")},
     {"a name twice, in two cases",    userRoot("", R"("a": {"values": {}, "keys": {}}, "A": {"values": {}, "keys": {}})")},
     {"a text that is no UTF-8",       userRoot("\"v\": {\"type\": 1, \"text\": \"\xFC\"}", "")},
     {"deeper than keys can be",       nested(513)},
-    {"endless keys",                  nested(100000)},
-    {"endless lists",                 std::string(1000000, '[')},
+    {"endless keys",                  nested(20000)},
+    {"endless lists",                 std::string(100000, '[')},
 };
 // clang-format on
 
@@ -211,6 +212,8 @@ TEST_F(RegistryFile, ADamagedFileFailsEverythingAndStaysAsItIs) {
 TEST_F(RegistryFile, AHandwrittenFileIsUnderstood) {
   write(userRoot(R"("v": {"type": 1, "text": "Acme"})", ""));
   EXPECT_EQ(Fresh(file)->GetValue(kUserRoot, "", "v"), RegistryValue("Acme"));
+  write(userRoot(R"("v": {"type": 3, "bytes": "00097fa0ff"})", ""));
+  EXPECT_EQ(Fresh(file)->GetValue(kUserRoot, "", "v"), RegistryValue("\x00\x09\x7F\xA0\xFF"s));
   write(
       R"({"values": {}, "keys": {"hkey_current_user": {"values": {}, "keys": {"A": {"values": {}, "keys": {}}}}}})");
   EXPECT_TRUE(Fresh(file)->KeyExists(kUserRoot, "a"));
@@ -274,7 +277,7 @@ class LargestFile {
   LargestFile& operator=(const LargestFile&) = delete;
   ~LargestFile() {
     setrlimit(RLIMIT_FSIZE, &m_before);
-    std::signal(SIGXFSZ, m_handler);
+    (void)std::signal(SIGXFSZ, m_handler);
   }
 
  private:

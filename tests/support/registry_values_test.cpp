@@ -42,7 +42,7 @@ const SetRow kSetRows[] = {
     {"a number below zero",                    RegistryType::Number, "\0\0\0\0"s,            -2,                 "\xFE\xFF\xFF\xFF"s},
     {"the largest number",                     RegistryType::Number, "\0\0\0\0"s,            "2147483647",       "\xFF\xFF\xFF\x7F"s},
     {"the smallest number",                    RegistryType::Number, "\0\0\0\0"s,            "-2147483648",      "\0\0\0\x80"s},
-    {"in the size that was there: two bytes",  RegistryType::Number, "\0\0"s,                0x12345678,         "\x78\x56"s},
+    {"in the size that was there: two bytes",  RegistryType::Number, "\0\0"s,                0x123456F8,         "\xF8\x56"s},
     {"in the size that was there: eight",      RegistryType::Number, "\0\0\0\0\0\0\0\0"s,    -1,                 "\xFF\xFF\xFF\xFF\0\0\0\0"s},
     {"an expandable text is left alone",       kExpandable,          "%x%\0"s,               "new",              ""},
     {"several texts are left alone",           kManyTexts,           "a\0b\0\0"s,            "new",              ""},

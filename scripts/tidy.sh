@@ -24,3 +24,8 @@ tidy build/release "^$PWD/(app|cli|fee_model|localization|notepad|support|window
 # Half of the time goes to following paths through the code. Tests and benchmarks are not worth it: they run.
 tidy build/release "^$PWD/(bench|tests)/.*\\.cpp$" '-checks=-clang-analyzer-*'
 tidy build/fuzz "^$PWD/fuzz/.*\\.cpp$"
+# What is compiled for Windows alone, with the headers of the compiler that does it.
+configure windows build/windows
+headers=$(x86_64-w64-mingw32-g++-posix -print-file-name=include/c++)
+tidy build/windows "^$PWD/.*_windows\\.cpp$" -extra-arg=--target=x86_64-w64-mingw32 \
+  "-extra-arg=-isystem$headers" "-extra-arg=-isystem$headers/x86_64-w64-mingw32"

@@ -1,9 +1,10 @@
 #include "registry.h"
 
 #include <array>
-#include <charconv>
-#include <limits>
 #include <optional>
+#include <utility>
+
+#include "registry_data.h"
 
 namespace {
 
@@ -98,62 +99,6 @@ class OpenKey : public Key {
   }
 };
 
-std::string textOf(std::int32_t number) {
-  constexpr std::size_t longest = std::numeric_limits<std::int32_t>::digits10 + 2;  // one digit more, a sign
-  std::array<char, longest> digits;
-  return {digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr};
-}
-
-std::string textOf(const RegistryValue& value) {
-  const auto* number = std::get_if<std::int32_t>(&value);
-  return number ? textOf(*number) : std::get<std::string>(value);
-}
-
-/// A text must be a whole number from its first character to its last.
-std::optional<std::int32_t> numberOf(const RegistryValue& value) {
-  if (const auto* number = std::get_if<std::int32_t>(&value)) return *number;
-  const auto& text = std::get<std::string>(value);
-  std::int32_t number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size()) return {};
-  return number;
-}
-
-std::string withTerminator(std::string text) {
-  text.push_back('\0');
-  return text;
-}
-
-std::optional<std::string> byteAsText(const RegistryValue& value) {
-  constexpr std::int32_t largestByte = 255;
-  const std::optional<std::int32_t> number = numberOf(value);
-  if (!number || *number < 0 || *number > largestByte) return {};
-  return withTerminator(textOf(*number));
-}
-
-constexpr unsigned kBitsPerByte = 8;
-
-/// The lowest byte first, whatever the processor's order is; what goes beyond the number is zero.
-std::optional<std::string> numberAsBytes(const RegistryValue& value, std::uint32_t size) {
-  const std::optional<std::int32_t> number = numberOf(value);
-  if (!number) return {};
-  std::string bytes(size, '\0');
-  auto rest = static_cast<std::uint32_t>(*number);
-  for (char& byte : bytes) {
-    byte = static_cast<char>(rest & 0xFFU);
-    rest >>= kBitsPerByte;
-  }
-  return bytes;
-}
-
-std::optional<std::int32_t> numberOfBytes(std::string_view bytes) {
-  if (bytes.size() < sizeof(std::int32_t)) return {};
-  std::uint32_t number = 0;
-  for (unsigned at = 0; at < sizeof number; ++at)
-    number |= std::uint32_t{static_cast<unsigned char>(bytes[at])} << (kBitsPerByte * at);
-  return static_cast<std::int32_t>(number);
-}
-
 /// What is known of a value before it is written.
 struct Existing {
   RegistryType type = RegistryType::Text;  ///< that of a value that is not there yet
@@ -175,13 +120,13 @@ Existing probe(RegistryBackend& backend, RegistryHandle key, const std::string& 
 bool encode(const RegistryValue& value, const Existing& existing, std::optional<std::string>& data) {
   switch (existing.type) {
     case RegistryType::Text:
-      data = withTerminator(textOf(value));
+      data = textData(value);
       return true;
     case RegistryType::Binary:
-      data = byteAsText(value);
+      data = byteData(value);
       return true;
     case RegistryType::Number:
-      data = numberAsBytes(value, existing.size);
+      data = numberData(value, existing.size);
       return true;
   }
   return false;
@@ -227,7 +172,7 @@ RegistryValue CRegistry::GetValue(RegistryHandle root, std::string_view keyPath,
   Stored stored = read(m_backend, key.handle(), valueName);
   if (stored.type == RegistryType::Text) return stored.data.substr(0, stored.data.find('\0'));
   if (stored.type == RegistryType::Binary) return std::move(stored.data);
-  const std::optional<std::int32_t> number = numberOfBytes(stored.data);
+  const std::optional<std::int32_t> number = numberOfData(stored.data);
   if (stored.type != RegistryType::Number || !number) fail(kGetValue);
   return *number;
 }

@@ -1,9 +1,9 @@
 # shellcheck shell=bash disable=SC2034 # the lists are for those who source this
 # Sourced by run, test and .ci/run: installs the Debian packages that are missing, and says so.
 
-# What building and running the calculator needs; its links are opened by xdg-utils.
+# What building and running the calculator and the command need; links are opened by xdg-utils.
 RUN_PACKAGES=(cmake ninja-build g++ qt6-base-dev qt6-tools-dev qt6-l10n-tools libcups2-dev librsvg2-bin
-  nlohmann-json3-dev xdg-utils)
+  libcli11-dev libcsv-dev libfmt-dev nlohmann-json3-dev xdg-utils)
 
 # What a virtual display needs: the server, a window manager, the questions asked to both, the screenshot.
 DISPLAY_PACKAGES=(xvfb openbox x11-utils xdotool imagemagick)

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <map>
+#include <string>
+
+#include "listing.h"
+#include "option_table.h"
+
+/// The options of a command that say what is to be priced, as the table of options has them.
+class ListingOptions {
+ public:
+  /// Adds the options of that scope but those named in `left`, which the command finds by itself.
+  void addTo(CLI::App& command, OptionScope scope, std::initializer_list<std::string_view> left = {});
+
+  /// The listing they make, checked. Throws OptionError.
+  [[nodiscard]] Listing listing(ListingKind kind, const NumberLocale& locale, bool hasDecimal) const;
+
+ private:
+  std::map<const Option*, std::string> m_values;
+};

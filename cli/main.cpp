@@ -2,9 +2,8 @@
 
 #include "amount_errors.h"
 #include "option_values.h"
-#include "price_commands.h"
 #include "pricing.h"
-#include "program_version.h"
+#include "program.h"
 
 namespace {
 
@@ -30,10 +29,7 @@ int run(CLI::App& program, const Session& session, int argc, char** argv) {
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
   Session session{.out = std::cout, .errors = std::cerr, .decimal = {}};
-  CLI::App program("What eBay and PayPal charge, by the schedule that is built into Tessaloom",
-                   "tessaloom-fees");
-  program.set_version_flag("--version", std::string("tessaloom-fees ") + kProgramVersion);
-  program.require_subcommand(1);
-  addPriceCommands(program, session);
+  CLI::App program;
+  makeProgram(program, session);
   return run(program, session, argc, argv);
 }

@@ -11,7 +11,7 @@ void addOutputOptions(CLI::App& command, Session& session) {
       {"text", Format::Text}, {"csv", Format::Csv}, {"json", Format::Json}};
   command.add_option("--format", session.format, "text, csv or json (text)")
       ->transform(CLI::Transformer(formats, CLI::ignore_case).description(""))
-      ->type_name("FORMAT");
+      ->type_name("text|csv|json");
   command
       .add_option("--decimal", session.decimal, "the decimal sign of numbers, read and written: . or , (.)")
       ->check(CLI::IsMember({".", ","}).description(""))

@@ -66,7 +66,9 @@ void frmeBayFees::mnuHelpSubscribe_Click() {
   openMail(Links::subscriptionMail(m_surroundings.brand.values()));
 }
 
-void frmeBayFees::mnuHelpUpdate_Click() { m_startStatus->CheckForUpdate(); }
+void frmeBayFees::mnuHelpUpdate_Click() {
+  if (m_startStatus) m_startStatus->CheckForUpdate();
+}
 
 void frmeBayFees::mnuHelpAbout_Click() {
   frmAbout about(this, {.brand = m_surroundings.brand,

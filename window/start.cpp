@@ -19,8 +19,8 @@ void askForUpdateCheck(const Surroundings& surroundings, const std::shared_ptr<C
   const bool isAllowed = prompt.exec() == QDialog::Accepted;
   try {
     startStatus->keepUpdateCheck(isAllowed);
-  } catch (const SettingsError& error) {
-    surroundings.errors.show(nullptr, QString::fromUtf8(error.what()));
+  } catch (const SettingsError&) {
+    // What could not be stored is tried again with the defaults that follow, and told then.
   }
 }
 

@@ -42,9 +42,12 @@ void DebugLogFile::append(const QDateTime& time, const QString& version, const Q
   constexpr int patience = 200;  // milliseconds, for another window that writes
   if (!QDir().mkpath(QFileInfo(m_path).path())) return;
   QLockFile lock(m_path + QStringLiteral(".lock"));
-  if (!lock.tryLock(patience)) return;
+  const bool isAlone = lock.tryLock(patience);
   const QByteArray line = lineOf(time, version, text) + '\n';
-  if (QFileInfo(m_path).size() + line.size() >= kLargestSize) dropOlderHalf(m_path);
+  const bool isFull = QFileInfo(m_path).size() + line.size() >= kLargestSize;
+  // A line more does no harm to those who write at the same time; taking lines away would.
+  if (isFull && !isAlone) return;
+  if (isFull) dropOlderHalf(m_path);
   QFile log(m_path);
   if (log.open(QIODevice::WriteOnly | QIODevice::Append)) log.write(line);
 }

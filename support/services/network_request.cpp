@@ -4,8 +4,9 @@
 #include <limits>
 #include <QNetworkReply>
 #include <QNetworkRequest>
-#include <QStringDecoder>
 #include <utility>
+
+#include "desktop_opener.h"
 
 namespace {
 
@@ -20,30 +21,37 @@ constexpr qsizetype kBytesPerCharacter = 4;
 constexpr qsizetype kEnoughBytes = kLongestAnswer * kBytesPerCharacter;
 
 QString textOf(const QByteArray& bytes) {
-  QStringDecoder utf8(QStringDecoder::Utf8);
-  const QString text = utf8(bytes);
-  return (utf8.hasError() ? QString::fromLatin1(bytes) : text).left(kLongestAnswer);
+  const QString text = QString::fromUtf8(bytes).left(kLongestAnswer);
+  return text.contains(QChar::ReplacementCharacter) ? QString::fromLatin1(bytes).left(kLongestAnswer) : text;
+}
+
+/// A redirection is followed from https to https; any other ends the question with its own status.
+QNetworkRequest requestFor(const QUrl& address) {
+  const bool isSecure = address.scheme() == QStringLiteral("https");
+  QNetworkRequest request(address);
+  request.setAttribute(
+      QNetworkRequest::RedirectPolicyAttribute,
+      isSecure ? QNetworkRequest::NoLessSafeRedirectPolicy : QNetworkRequest::ManualRedirectPolicy);
+  request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+  request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+  request.setMaximumRedirectsAllowed(kRedirections);
+  return request;
 }
 
 }  // namespace
 
 void NetworkRequest::get(const QUrl& address, Answered answered) {
+  m_bytes.clear();
+  m_answered = std::move(answered);
+  if (!isWebAddress(address.toString())) return deliver(std::nullopt);
   if (m_network == nullptr) {
     m_network = std::make_unique<QNetworkAccessManager>();
     m_patience.setSingleShot(true);
     connect(&m_patience, &QTimer::timeout, this, [this] { finish(false); });
   }
-  m_bytes.clear();
-  m_answered = std::move(answered);
-  QNetworkRequest request(address);
-  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::UserVerifiedRedirectPolicy);
-  request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-  request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-  request.setMaximumRedirectsAllowed(kRedirections);
-  m_reply = m_network->get(request);
+  m_reply = m_network->get(requestFor(address));
   m_reply->setReadBufferSize(kEnoughBytes);
   connect(m_reply, &QNetworkReply::readyRead, this, &NetworkRequest::read);
-  connect(m_reply, &QNetworkReply::redirected, this, &NetworkRequest::judgeRedirection);
   connect(m_reply, &QNetworkReply::finished, this, [this] {
     read();
     if (m_reply != nullptr) finish(m_reply->error() == QNetworkReply::NoError);
@@ -52,8 +60,12 @@ void NetworkRequest::get(const QUrl& address, Answered answered) {
 }
 
 void NetworkRequest::cancel() {
-  m_patience.stop();
   m_answered = nullptr;
+  endReply();
+}
+
+void NetworkRequest::endReply() {
+  m_patience.stop();
   if (QNetworkReply* reply = std::exchange(m_reply, nullptr)) {
     reply->disconnect(this);
     reply->abort();
@@ -67,22 +79,16 @@ void NetworkRequest::read() {
   if (m_bytes.size() >= kEnoughBytes) finish(true);
 }
 
-void NetworkRequest::judgeRedirection(const QUrl& target) {
-  const QString secure = QStringLiteral("https");
-  if (m_reply->url().scheme() == secure && target.scheme() == secure) {
-    emit m_reply->redirectAllowed();
-  } else {
-    finish(false);
-  }
-}
-
 void NetworkRequest::finish(bool isUsable) {
   const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-  const std::optional<QString> text =
-      isUsable && status == kSuccess ? std::optional(textOf(m_bytes)) : std::nullopt;
-  const Answered answered = std::exchange(m_answered, nullptr);
-  cancel();
-  // In its own turn: whoever is told may open a window and wait in it.
-  QMetaObject::invokeMethod(
-      this, [answered, text] { answered(text); }, Qt::QueuedConnection);
+  endReply();
+  deliver(isUsable && status == kSuccess ? std::optional(textOf(m_bytes)) : std::nullopt);
+}
+
+// In its own turn: whoever is told may open a window and wait in it. It may be cancelled until then.
+void NetworkRequest::deliver(const std::optional<QString>& text) {
+  const auto tell = [this, text] {
+    if (const Answered answered = std::exchange(m_answered, nullptr)) answered(text);
+  };
+  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }

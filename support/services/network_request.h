@@ -12,7 +12,7 @@ class QNetworkReply;
 /// Asks over the network: HTTP GET, ten seconds at most for all of it. Certificates are checked as the system
 /// says; a redirection is followed only from https to https, and not for ever. Of an answer the first 32767
 /// characters are read, as UTF-8, or as Latin-1 if they are not that. Nothing of the network is touched
-/// before the first question.
+/// before the first question, and an address that is none of the web is not asked.
 class NetworkRequest : public QObject, public WebRequest {
   Q_OBJECT
 
@@ -25,8 +25,9 @@ class NetworkRequest : public QObject, public WebRequest {
 
  private:
   void read();
-  void judgeRedirection(const QUrl& target);
   void finish(bool isUsable);
+  void deliver(const std::optional<QString>& text);
+  void endReply();
 
   std::unique_ptr<QNetworkAccessManager> m_network;
   QNetworkReply* m_reply = nullptr;

@@ -20,7 +20,7 @@ QString MsInfo::programPath(const ReadValue& readValue, const FileExists& fileEx
 }
 
 std::optional<QString> MsInfo::textOf(unsigned long type, const QByteArray& bytes) {
-  if (type == kString) return QString::fromLocal8Bit(bytes.left(bytes.indexOf('\0')));
+  if (type == kString) return QString::fromLocal8Bit(bytes.split('\0').first());
   if (type == kNumber && bytes.size() == sizeof(quint32))
     return QString::number(qFromLittleEndian<quint32>(bytes.constData()));
   return std::nullopt;

@@ -25,8 +25,9 @@ bool flag(const QString& status, const QString& name) { return element(status, n
 UpdateAnswer readUpdateAnswer(const QString& text) {
   UpdateAnswer answer;
   if (!text.contains(QStringLiteral("<status>"))) {
-    answer.message = element(text, QStringLiteral("versionmessage"));
-    answer.isOldForm = text.contains(QStringLiteral("Version =")) && !answer.message.isNull();
+    const QString message = element(text, QStringLiteral("versionmessage"));
+    answer.isOldForm = text.contains(QStringLiteral("Version =")) && !message.isNull();
+    if (answer.isOldForm) answer.message = message;
     return answer;
   }
   const QString status = element(text, QStringLiteral("status"));

@@ -31,6 +31,12 @@ void FError::showEvent(QShowEvent* event) {
   QApplication::beep();
 }
 
+// The texts take as many lines as the width leaves them, however large the font.
+void FError::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  setMinimumHeight(layout()->totalMinimumHeightForWidth(width()));
+}
+
 void FError::cmdEmail_Click() {
   const QString subject = QCoreApplication::applicationName() + u' ' + QString::fromLatin1(kProgramVersion) +
                           QStringLiteral(" Error");

@@ -20,6 +20,7 @@ class FError : public QDialog {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void cmdEmail_Click();

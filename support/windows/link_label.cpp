@@ -14,7 +14,8 @@ constexpr unsigned kUnderMouse = 0xFF00FF;
 
 /// Relative luminance, by the definition of sRGB.
 double luminance(const QColor& colour) {
-  const auto linear = [](double part) {
+  const auto linear = [](float stored) {
+    const auto part = static_cast<double>(stored);
     return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
   };
   return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());

@@ -215,4 +215,40 @@ TEST_F(CustomBrand, WhatIsNotThereHasTheEmptyValue) {
   }
 }
 
+struct NamedRow {
+  const char* rule;
+  const char* company;
+  const char* text;
+  const char* named;
+};
+
+// clang-format off
+constexpr NamedRow kNamedRows[] = {
+    {"the word alone",                     "Acme",          "Ostrevane",                       "Acme"},
+    {"every occurrence",                   "Acme",          "Ostrevane and Ostrevane",         "Acme and Acme"},
+    {"inside other words",                 "Acme",          "Ostrevane-Website, Ostrevanes",   "Acme-Website, Acmes"},
+    {"other letters are another word",     "Acme",          "ostrevane OSTREVANE",             "ostrevane OSTREVANE"},
+    {"a text without it",                  "Acme",          "Visit us",                        "Visit us"},
+    {"an ampersand as it stands",          "Smith & Sons",  "&Ostrevane Homepage",             "&Smith & Sons Homepage"},
+    {"a name that holds the word",         "New Ostrevane", "Ostrevane Message",               "New Ostrevane Message"},
+    {"a name that looks like a reference", "\\1 $1 %1",     "Ostrevane Message",               "\\1 $1 %1 Message"},
+    {"an empty name",                      "",              "Ostrevane Message",               " Message"},
+};
+// clang-format on
+
+TEST_F(CustomBrand, NamesTheCompanyInPlaceOfTheBrandWord) {
+  for (const NamedRow& row : kNamedRows) {
+    write(QByteArray("<CompanyName>") + row.company + "</CompanyName>");
+    CCustomBrand brand(folder.path());
+    brand.Load();
+    EXPECT_EQ(brand.named(QString::fromUtf8(row.text)).toStdString(), row.named) << row.rule;
+  }
+}
+
+TEST_F(CustomBrand, NamesTheMakerWithoutAFile) {
+  CCustomBrand brand(folder.path());
+  brand.Load();
+  EXPECT_EQ(brand.named(QStringLiteral("Ostrevane Message")), QStringLiteral("Ostrevane Message"));
+}
+
 }  // namespace

@@ -43,29 +43,36 @@ class ErrorWindowTest : public QObject {
         << "English"
         << QStringList{
                "Tessaloom  Error",
-               "An error has occured in this application.  The application has returned the following "
-               "information about this error:",
-               "Please take a moment to send this error information to the Ostrevane technical support "
-               "team for review.  You may also continue without sending this error to us.",
+               QStringLiteral(
+                   "An error has occured in this application.  The application has returned the following "
+                   "information about this error:"),
+               QStringLiteral(
+                   "Please take a moment to send this error information to the Ostrevane technical support "
+                   "team for review.  You may also continue without sending this error to us."),
                "&Send Error", "&Continue"};
     QTest::newRow("German")
         << "German"
         << QStringList{
                "Tessaloom  Fehler",
-               "In diesem Programm ist ein Fehler aufgetreten. Das Programm meldet dazu folgende "
-               "Informationen:",
-               "Bitte nehmen Sie sich einen Augenblick Zeit und senden Sie diese Fehlerinformationen zur "
-               "Prüfung an den technischen Support von Ostrevane. Sie können auch weiterarbeiten, ohne "
-               "uns diesen Fehler zu senden.",
+               QStringLiteral(
+                   "In diesem Programm ist ein Fehler aufgetreten. Das Programm meldet dazu folgende "
+                   "Informationen:"),
+               QStringLiteral(
+                   "Bitte nehmen Sie sich einen Augenblick Zeit und senden Sie diese Fehlerinformationen zur "
+                   "Prüfung an den technischen Support von Ostrevane. Sie können auch weiterarbeiten, ohne "
+                   "uns diesen Fehler zu senden."),
                "Fehler &senden", "&Weiter"};
     QTest::newRow("French")
         << "French"
-        << QStringList{"Tessaloom  Erreur",
-                       "Une erreur s’est produite dans cette application. Voici les informations qu’elle a "
-                       "renvoyées au sujet de cette erreur\u00A0:",
-                       "Prenez un instant pour envoyer ces informations à l’équipe d’assistance technique "
-                       "d’Ostrevane, qui les examinera. Vous pouvez aussi continuer sans nous les envoyer.",
-                       "&Signaler l’erreur", "&Continuer"};
+        << QStringList{
+               "Tessaloom  Erreur",
+               QStringLiteral(
+                   "Une erreur s’est produite dans cette application. Voici les informations qu’elle a "
+                   "renvoyées au sujet de cette erreur\u00A0:"),
+               QStringLiteral(
+                   "Prenez un instant pour envoyer ces informations à l’équipe d’assistance technique "
+                   "d’Ostrevane, qui les examinera. Vous pouvez aussi continuer sans nous les envoyer."),
+               "&Signaler l’erreur", "&Continuer"};
   }
 
   void itsTextsAreOfTheLanguage() {

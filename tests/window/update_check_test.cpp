@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <QPlainTextEdit>
 #include <QtTest>
 
@@ -63,10 +64,9 @@ struct OrderedMessages : RecordingMessages {
 };
 
 bool isCalculatorOpen() {
-  for (const QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->inherits("frmeBayFees") && window->isVisible()) return true;
-  }
-  return false;
+  return std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget* window) {
+    return window->inherits("frmeBayFees") && window->isVisible();
+  });
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 
 # What building and running the calculator and the command need; links are opened by xdg-utils.
 RUN_PACKAGES=(cmake ninja-build g++ qt6-base-dev qt6-tools-dev qt6-l10n-tools libcups2-dev librsvg2-bin
-  libcli11-dev libcsv-dev libfmt-dev nlohmann-json3-dev xdg-utils)
+  libcli11-dev libfmt-dev nlohmann-json3-dev xdg-utils)
 
 # What a virtual display needs: the server, a window manager, the questions asked to both, the screenshot.
 DISPLAY_PACKAGES=(xvfb openbox x11-utils xdotool imagemagick)
@@ -11,9 +11,9 @@ DISPLAY_PACKAGES=(xvfb openbox x11-utils xdotool imagemagick)
 # What ./test needs beyond that: test and benchmark libraries; for the end-to-end tests the clipboard, a print
 # server with the filters and the printer that a job passes, and what reads the printed pages; and who reads the
 # help pages, the manual page and the completions.
-TEST_PACKAGES=(libgtest-dev libbenchmark-dev xclip
+TEST_PACKAGES=(libgtest-dev libbenchmark-dev libcsv-dev xclip
   cups-daemon cups-client cups-filters printer-driver-cups-pdf poppler-utils
-  fish groff-base tidy zsh)
+  fish groff-base openssl strace tidy zsh)
 
 # What .ci/run needs beyond that: the fuzz targets' compiler, format, tidy and script checks.
 CI_PACKAGES=(clang libclang-rt-14-dev clang-format clang-tidy shellcheck git)

@@ -1,5 +1,6 @@
 #include "system_information.h"
 
+#include <QList>
 #include <QtEndian>
 
 namespace {

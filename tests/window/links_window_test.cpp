@@ -1,3 +1,5 @@
+#include <array>
+#include <cmath>
 #include <QMenuBar>
 #include <QtTest>
 
@@ -109,6 +111,39 @@ QColor colourOf(const QWidget& label) { return label.palette().color(label.foreg
 
 const QColor kBlue(0, 0, 255);
 const QColor kMagenta(255, 0, 255);
+
+double luminance(const QColor& colour) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.red() / 255.0) + 0.7152 * linear(colour.green() / 255.0) +
+         0.0722 * linear(colour.blue() / 255.0);
+}
+
+double contrastOf(const QWidget& label) {
+  const double text = luminance(colourOf(label));
+  const double ground = luminance(label.palette().color(label.backgroundRole()));
+  return (std::max(text, ground) + 0.05) / (std::min(text, ground) + 0.05);
+}
+
+/// While it lives, the desktop has these colours.
+class DesktopColours {
+ public:
+  explicit DesktopColours(const QColor& ground) : m_before(QApplication::palette()) {
+    QPalette colours = m_before;
+    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button})
+      colours.setColor(role, ground);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+      colours.setColor(role, Qt::white);
+    QApplication::setPalette(colours);
+  }
+  ~DesktopColours() { QApplication::setPalette(m_before); }
+  DesktopColours(const DesktopColours&) = delete;
+  DesktopColours& operator=(const DesktopColours&) = delete;
+
+ private:
+  QPalette m_before;
+};
 
 struct FailingStarter : ProgramStarter {
   bool start(const QString& /*path*/) override { return false; }
@@ -286,6 +321,41 @@ class LinksWindowTest : public QObject {
     moveOver(other);
     QCOMPARE(colourOf(one), kBlue);
     QCOMPARE(colourOf(other), kMagenta);
+  }
+
+  void onADarkDesktopLinksCanBeRead_data() {
+    QTest::addColumn<QColor>("ground");
+    QTest::newRow("black") << QColor(0, 0, 0);
+    QTest::newRow("nearly black") << QColor(30, 30, 30);
+    QTest::newRow("dark grey") << QColor(53, 53, 53);
+    QTest::newRow("grey") << QColor(80, 80, 80);
+    QTest::newRow("dark blue") << QColor(0, 0, 64);
+    QTest::newRow("dark violet") << QColor(48, 10, 36);
+    QTest::newRow("dark green") << QColor(0, 48, 24);
+  }
+
+  void onADarkDesktopLinksCanBeRead() {
+    QFETCH(QColor, ground);
+    Calculator calculator;
+    open(calculator, QStringLiteral("English"));
+    for (const LinkRow& row : kLabelRows) {
+      const LinkLabel& label = labelInFront(calculator, QString::fromLatin1(row.control));
+      moveTo(label, QPoint(1, 1));
+      {
+        const DesktopColours dark(ground);
+        letItSettle();
+        QCOMPARE(label.palette().color(label.backgroundRole()), ground);
+        const QColor idle = colourOf(label);
+        QVERIFY2(contrastOf(label) >= 4.5, qPrintable(idle.name()));
+        QVERIFY2(idle.blue() >= idle.red(), qPrintable(idle.name()));
+        moveOver(label);
+        QVERIFY2(contrastOf(label) >= 4.5, qPrintable(colourOf(label).name()));
+        QVERIFY(colourOf(label) != idle);
+        moveTo(label, QPoint(1, 1));
+      }
+      letItSettle();
+      QCOMPARE(colourOf(label), kBlue);  // the desktop may turn light again by day
+    }
   }
 
   void theHomepageAndTheMailsGoToTheMaker_data() { addOwnLinks(); }

@@ -7,12 +7,15 @@
 
 #include "amount_errors.h"
 #include "decimal.h"
+#include "short_amount.h"
 
 namespace {
 
 constexpr int kSingleDigits = 7;
 constexpr int kDoubleDigits = 15;
 constexpr int kShownDecimals = 2;
+constexpr std::string_view kNoLead;
+constexpr std::string_view kLeadingBlank = " ";
 
 Decimal decimalOf(std::string_view text, const NumberLocale& locale) {
   auto number = parseDecimal(text, locale);
@@ -61,13 +64,30 @@ std::string twoDecimalDigits(Decimal number, const NumberLocale& locale) {
   return text.append(static_cast<std::size_t>(kShownDecimals - shown), '0');
 }
 
+std::string shortPlain(ShortAmount amount, const NumberLocale& locale) {
+  return write(withoutTrailingZeros(amount), kLeadingBlank, locale.decimal);
+}
+
+std::string shortTwoDecimals(ShortAmount amount, const NumberLocale& locale) {
+  return write(withTwoDecimals(amount), kNoLead, locale.decimal);
+}
+
+/// Ten-thousandths that leave room for rounding.
+std::optional<ShortAmount> shortAmountOf(Currency value) {
+  constexpr std::int64_t most = 100'000'000'000'000'000;
+  const std::int64_t units = value.tenThousandths();
+  if (units > most || units < -most) return std::nullopt;
+  return ShortAmount{units, Currency::decimals};
+}
+
 }  // namespace
 
 bool isNumeric(std::string_view text, const NumberLocale& locale) {
-  return parseDecimal(text, locale).has_value();
+  return shortAmountOf(text, locale).has_value() || parseDecimal(text, locale).has_value();
 }
 
 double toDouble(std::string_view text, const NumberLocale& locale) {
+  if (const auto amount = shortAmountOf(text, locale)) return toDouble(*amount);
   return doubleOf(decimalOf(text, locale), text);
 }
 
@@ -79,12 +99,20 @@ float toSingle(std::string_view text, const NumberLocale& locale) {
 
 std::int16_t toInteger16(std::string_view text, const NumberLocale& locale) {
   using Limits = std::numeric_limits<std::int16_t>;
+  const auto amount = shortAmountOf(text, locale);
+  if (amount && amount->decimals == 0 && amount->units >= Limits::min() && amount->units <= Limits::max())
+    return static_cast<std::int16_t>(amount->units);
   const auto value = scaledHalfEven(decimalOf(text, locale), 0);
   if (!value || *value < Limits::min() || *value > Limits::max()) throw OverflowError(text);
   return static_cast<std::int16_t>(*value);
 }
 
 Currency toCurrency(std::string_view text, const NumberLocale& locale) {
+  const auto amount = shortAmountOf(text, locale);
+  if (amount && amount->decimals <= kShownDecimals) {
+    constexpr std::int64_t unitsPerCent = 100;
+    return Currency::fromTenThousandths(withTwoDecimals(*amount).units * unitsPerCent);
+  }
   const auto units = scaledHalfEven(decimalOf(text, locale), Currency::decimals);
   if (!units) throw OverflowError(text);
   return Currency::fromTenThousandths(*units);
@@ -97,31 +125,40 @@ float storedAsSingle(double value) {
 }
 
 std::string plainText(float value, const NumberLocale& locale) {
+  if (const auto amount = shortAmountOf(static_cast<double>(value), kSingleDigits))
+    return shortPlain(*amount, locale);
   return plainDigits(digitsOf(value), kSingleDigits, locale);
 }
 
 std::string plainText(double value, const NumberLocale& locale) {
+  if (const auto amount = shortAmountOf(value, kDoubleDigits)) return shortPlain(*amount, locale);
   return plainDigits(digitsOf(value), kDoubleDigits, locale);
 }
 
 std::string plainText(Currency value, const NumberLocale& locale) {
+  if (const auto amount = shortAmountOf(value)) return shortPlain(*amount, locale);
   const Decimal number = digitsOf(value);
   return withLeadingBlank(number, writeFixed(number, locale.decimal));
 }
 
 std::string twoDecimals(float value, const NumberLocale& locale) {
+  if (const auto amount = shortAmountOf(static_cast<double>(value), kSingleDigits))
+    return shortTwoDecimals(*amount, locale);
   return twoDecimalDigits(digitsOf(value), locale);
 }
 
 std::string twoDecimals(double value, const NumberLocale& locale) {
+  if (const auto amount = shortAmountOf(value, kDoubleDigits)) return shortTwoDecimals(*amount, locale);
   return twoDecimalDigits(digitsOf(value), locale);
 }
 
 std::string twoDecimals(Currency value, const NumberLocale& locale) {
+  if (const auto amount = shortAmountOf(value)) return shortTwoDecimals(*amount, locale);
   return twoDecimalDigits(digitsOf(value), locale);
 }
 
 std::string twoDecimals(std::string_view text, const NumberLocale& locale) {
+  if (const auto amount = shortAmountOf(text, locale)) return shortTwoDecimals(*amount, locale);
   auto number = parseDecimal(text, locale);
   if (!number) return std::string(text);
   doubleOf(*number, text);  // a number that no box can use must not grow into a text of a billion digits

@@ -42,20 +42,27 @@ float CAuctionSite::VehicleInsertionFee(bool IsMotorcycle) const {
   return amount(IsMotorcycle ? Figure::VehicleInsertionMotorcycle : Figure::VehicleInsertionOther);
 }
 
-float CAuctionSite::VehicleFVF(bool IsMotorcycle, float SalePrice) const {
-  const double shareOfPrice = static_cast<double>(SalePrice) * share(Figure::VehicleSaleShare);
+CAuctionSite::VehicleSaleRule CAuctionSite::VehicleSale(bool IsMotorcycle, float SalePrice) const {
   switch (m_site) {
     case eBayUK:
-      if (SalePrice < amount(Figure::VehicleSaleShareFrom)) return amount(Figure::VehicleSaleLowest);
-      if (SalePrice < amount(Figure::VehicleSaleHighestFrom)) return storedAsSingle(shareOfPrice);
-      return amount(Figure::VehicleSaleHighest);
+      if (SalePrice < amount(Figure::VehicleSaleShareFrom)) return {.flat = Figure::VehicleSaleLowest};
+      if (SalePrice < amount(Figure::VehicleSaleHighestFrom)) return {.flat = {}, .takesShare = true};
+      return {.flat = Figure::VehicleSaleHighest};
     case eBayGermany:
-      if (IsMotorcycle) return amount(Figure::VehicleSaleMotorcycle);
-      if (SalePrice >= amount(Figure::VehicleSaleHighestFrom)) return amount(Figure::VehicleSaleHighest);
-      return storedAsSingle(static_cast<double>(amount(Figure::VehicleSaleLowest)) + shareOfPrice);
+      if (IsMotorcycle) return {.flat = Figure::VehicleSaleMotorcycle};
+      if (SalePrice >= amount(Figure::VehicleSaleHighestFrom)) return {.flat = Figure::VehicleSaleHighest};
+      return {.flat = Figure::VehicleSaleLowest, .takesShare = true};
     default:
-      return amount(IsMotorcycle ? Figure::VehicleSaleMotorcycle : Figure::VehicleSaleLowest);
+      return {.flat = IsMotorcycle ? Figure::VehicleSaleMotorcycle : Figure::VehicleSaleLowest};
   }
+}
+
+float CAuctionSite::VehicleFVF(bool IsMotorcycle, float SalePrice) const {
+  const VehicleSaleRule rule = VehicleSale(IsMotorcycle, SalePrice);
+  const float flat = rule.flat ? amount(*rule.flat) : 0.0F;
+  if (!rule.takesShare) return flat;
+  const double shareOfPrice = static_cast<double>(SalePrice) * share(Figure::VehicleSaleShare);
+  return storedAsSingle(static_cast<double>(flat) + shareOfPrice);
 }
 
 float CAuctionSite::ReserveThirdTierLower(bool /*IsVehicle*/, bool /*IsRealEstateAd*/) const {

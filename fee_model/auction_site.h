@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "fee_schedule.h"
@@ -25,6 +26,12 @@ class CAuctionSite {
   /// `RealEstateFormat`: 0 3-10 day auction, 1 30-day auction, 2 30-day ad, 3 90-day ad.
   [[nodiscard]] float RealEstateInsertionFee(bool IsTimeshareLand, int RealEstateFormat) const;
   [[nodiscard]] float VehicleInsertionFee(bool IsMotorcycle) const;
+  /// How the fee on a sold vehicle is made: a flat figure, the share of its price, or the two together.
+  struct VehicleSaleRule {
+    std::optional<Figure> flat;
+    bool takesShare = false;
+  };
+  [[nodiscard]] VehicleSaleRule VehicleSale(bool IsMotorcycle, float SalePrice) const;
   /// The fee on a sold vehicle.
   [[nodiscard]] float VehicleFVF(bool IsMotorcycle, float SalePrice) const;
 
@@ -99,12 +106,13 @@ class CAuctionSite {
 
   [[nodiscard]] float ListingDesignerFee() const { return amount(Figure::ListingDesigner); }
 
- private:
-  [[nodiscard]] bool isKnown() const { return m_site >= eBayUS && m_site <= eBayGermany; }
   /// The figure of the current site in single precision, converted where it is kept in dollars.
   [[nodiscard]] float amount(Figure figure) const;
   /// A fraction as the formulas multiply by it, in double precision.
   [[nodiscard]] double share(Figure figure) const;
+
+ private:
+  [[nodiscard]] bool isKnown() const { return m_site >= eBayUS && m_site <= eBayGermany; }
 
   std::int32_t m_site = 0;
   std::array<float, kSiteCount> m_rates{};  ///< the first, eBay.com's, is never written

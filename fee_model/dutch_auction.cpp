@@ -8,11 +8,14 @@ const CAuctionSite& CDutchAuction::schedule() const {
   return m_site != nullptr ? *m_site : noSite;
 }
 
+float CDutchAuction::ListingValue(std::string_view OpeningPrice, std::int16_t ItemsOffered) const {
+  // Multiplied before it is stored: 37 items at 0.27 are worth 9.99, not a little more.
+  return storedAsSingle(toDouble(OpeningPrice, m_locale) * static_cast<double>(ItemsOffered));
+}
+
 std::string CDutchAuction::InsertionFee(std::string_view OpeningPrice, std::int16_t ItemsOffered,
                                         bool IsTwoCategories) const {
-  // Multiplied before it is stored: 37 items at 0.27 are worth 9.99, not a little more.
-  const float value = storedAsSingle(toDouble(OpeningPrice, m_locale) * static_cast<double>(ItemsOffered));
-  const LadderStep step = listingFeeStep(schedule(), value);
+  const LadderStep step = listingFeeStep(schedule(), ListingValue(OpeningPrice, ItemsOffered));
   std::string fee = step.isOnLadder ? plainText(step.fee, m_locale) : std::string();
   if (IsTwoCategories) fee = plainText(toDouble(fee, m_locale) * 2.0, m_locale);
   return fee;

@@ -18,6 +18,9 @@ class CDutchAuction {
   /// The schedule to ask, on every call anew. It must outlive this object. Without one all fees are 0.
   void Site(const CAuctionSite& site) { m_site = &site; }
 
+  /// What all items are worth at the opening price, in single precision: the price that the ladder is asked.
+  [[nodiscard]] float ListingValue(std::string_view OpeningPrice, std::int16_t ItemsOffered) const;
+
   /// The fee for listing all items, in plain number text. "" when price times count stands on no step of the
   /// ladder; doubling that for two categories throws ConversionError, like an empty price.
   [[nodiscard]] std::string InsertionFee(std::string_view OpeningPrice, std::int16_t ItemsOffered,

@@ -7,7 +7,6 @@
 #include "amount_errors.h"
 #include "amount_text.h"
 #include "entry_rules.h"
-#include "fee_total.h"
 
 namespace {
 
@@ -129,31 +128,35 @@ void recalculateMultipleItems(const MultipleItemsChoices& choices,
   MultipleItemsRecalculation(choices, calculators, locale, notAvailable, boxes).run();
 }
 
-float dutchExtraFeatures(const MultipleItemsChoices& choices, const CAuctionSite& site, int itemsOffered) {
+float dutchExtraFeatures(const MultipleItemsChoices& choices, const CAuctionSite& site, int itemsOffered,
+                         FeeRecord* record) {
+  using enum ExtraFeature;
   constexpr bool isMultipleItem = true;
   constexpr bool isVehicle = false;
   constexpr bool isRealEstate = false;
   const bool isMotors = choices.chkEBayMotorsDutch;
-  FeeTotal fees(choices.chkDutchTwoCategories);
+  FeeTotal fees(choices.chkDutchTwoCategories, record);
   if (choices.chkDutchFeaturedPlus)
-    fees.addDoubledForTwoCategories(site.FeaturedPlusFee(isMotors, isMultipleItem));
-  if (choices.chkDutchHomePageFeatured) fees.add(site.HomePageFeaturedFee(itemsOffered));
+    fees.addDoubledForTwoCategories(FeaturedPlus, site.FeaturedPlusFee(isMotors, isMultipleItem));
+  if (choices.chkDutchHomePageFeatured) fees.add(HomePageFeatured, site.HomePageFeaturedFee(itemsOffered));
   // Unlike a single item, several items pay for the gallery and for being featured in it.
   if (choices.chkDutchGallery) {
     fees.addDoubledForTwoCategories(
-        site.GalleryFee(isVehicle, choices.chkExtraPicturesDutch, choices.cboExtraPicturesDutch));
+        Gallery, site.GalleryFee(isVehicle, choices.chkExtraPicturesDutch, choices.cboExtraPicturesDutch));
   }
   if (choices.chkDutchGalleryFeatured)
-    fees.addDoubledForTwoCategories(site.GalleryFeaturedFee(isMotors, isVehicle));
-  if (choices.chkDutchBold) fees.addDoubledForTwoCategories(site.BoldFee(isVehicle, isRealEstate));
-  if (choices.chkDutchHighlight) fees.addDoubledForTwoCategories(site.HighlightFee());
-  if (choices.chkDutchGreatGift) fees.addDoubledForTwoCategories(site.GiftIconFee(isVehicle));
-  if (choices.chkDutchTenDayAuction) fees.addDoubledForTwoCategories(site.TenDayAuctionFee(isVehicle));
-  if (choices.chkDutchScheduled) fees.add(site.ScheduledListingFee(isVehicle));
-  if (choices.chkDutchSubtitle) fees.addDoubledForTwoCategories(site.SubtitleFee());
-  if (choices.chkDutchListingDesigner) fees.addDoubledForTwoCategories(site.ListingDesignerFee());
+    fees.addDoubledForTwoCategories(GalleryFeatured, site.GalleryFeaturedFee(isMotors, isVehicle));
+  if (choices.chkDutchBold) fees.addDoubledForTwoCategories(Bold, site.BoldFee(isVehicle, isRealEstate));
+  if (choices.chkDutchHighlight) fees.addDoubledForTwoCategories(Highlight, site.HighlightFee());
+  if (choices.chkDutchGreatGift) fees.addDoubledForTwoCategories(GiftIcon, site.GiftIconFee(isVehicle));
+  if (choices.chkDutchTenDayAuction)
+    fees.addDoubledForTwoCategories(TenDayAuction, site.TenDayAuctionFee(isVehicle));
+  if (choices.chkDutchScheduled) fees.add(Scheduled, site.ScheduledListingFee(isVehicle));
+  if (choices.chkDutchSubtitle) fees.addDoubledForTwoCategories(Subtitle, site.SubtitleFee());
+  if (choices.chkDutchListingDesigner)
+    fees.addDoubledForTwoCategories(ListingDesigner, site.ListingDesignerFee());
   // And unlike a single item's, their pictures are not doubled.
-  fees.add(site.PhotosFee(choices.chkExtraPicturesDutch, choices.cboExtraPicturesDutch,
-                          choices.chkSupersizeDutch, choices.chkSlideshowDutch, isVehicle));
+  fees.add(Pictures, site.PhotosFee(choices.chkExtraPicturesDutch, choices.cboExtraPicturesDutch,
+                                    choices.chkSupersizeDutch, choices.chkSlideshowDutch, isVehicle));
   return fees.total();
 }

@@ -5,6 +5,7 @@
 
 #include "auction_site.h"
 #include "dutch_auction.h"
+#include "fee_total.h"
 #include "number_locale.h"
 
 /// \file
@@ -31,6 +32,8 @@ struct MultipleItemsChoices {
   bool chkDutchGallery = false;
   bool chkDutchHomePageFeatured = false;
   bool chkDutchFeaturedPlus = false;
+
+  friend bool operator==(const MultipleItemsChoices&, const MultipleItemsChoices&) = default;
 };
 
 /// The texts of the tab's boxes, in the user's locale.
@@ -59,5 +62,7 @@ void recalculateMultipleItems(const MultipleItemsChoices& choices,
                               const MultipleItemsCalculators& calculators, const NumberLocale& locale,
                               std::string_view notAvailable, MultipleItemsBoxes& boxes);
 
-/// The total of the extra features, in single precision. `itemsOffered` decides the home page's price.
-float dutchExtraFeatures(const MultipleItemsChoices& choices, const CAuctionSite& site, int itemsOffered);
+/// The total of the extra features, in single precision, with every addition noted in `record`.
+/// `itemsOffered` decides the home page's price.
+float dutchExtraFeatures(const MultipleItemsChoices& choices, const CAuctionSite& site, int itemsOffered,
+                         FeeRecord* record = nullptr);

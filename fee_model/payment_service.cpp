@@ -2,14 +2,6 @@
 
 #include "amount_text.h"
 
-namespace {
-
-constexpr double kMerchantShare = 0.022;
-constexpr double kStandardShare = 0.029;
-constexpr double kInternationalShare = 0.01;
-
-}  // namespace
-
 CAuctionSite& CPaymentService::schedule() { return m_site != nullptr ? *m_site : m_noSite; }
 
 float CPaymentService::ConversionRateFromText(std::string_view text) {
@@ -18,44 +10,64 @@ float CPaymentService::ConversionRateFromText(std::string_view text) {
   return isUsed ? toSingle(text, m_locale) : schedule().DefaultConversionRate();
 }
 
-std::string CPaymentService::withInternationalSurcharge(std::string_view fee, double amount) const {
-  return plainText(toDouble(fee, m_locale) + amount * kInternationalShare, m_locale);
+void CPaymentService::addInternationalSurcharge(PaymentFee& fee, double amount) const {
+  const double surcharge = amount * kInternationalShare;
+  fee.text = plainText(toDouble(fee.text, m_locale) + surcharge, m_locale);
+  fee.surcharge = surcharge;
+}
+
+PaymentFee CPaymentService::PayPal(std::string_view Amount, bool IsMerchantRate, bool IsCreditCard,
+                                   std::string_view RateText, bool IsInternational) {
+  CAuctionSite& site = schedule();
+  PaymentFee fee;
+  fee.rate = ConversionRateFromText(RateText);
+  site.ConversionRate(fee.rate);
+  const double amount = toDouble(Amount, m_locale);
+  fee.share = IsMerchantRate ? kMerchantShare : kStandardShare;
+  fee.flatFee = site.PayPalFlatFee();
+  fee.shareOfAmount = amount * fee.share;
+  fee.text = plainText(fee.shareOfAmount + static_cast<double>(fee.flatFee), m_locale);
+  if (!IsCreditCard) {
+    const float cap = site.PayPalMaxFeeNonCC();
+    if (toSingle(fee.text, m_locale) > cap) {
+      fee.text = plainText(cap, m_locale);
+      fee.cap = cap;
+    }
+  }
+  if (IsInternational) addInternationalSurcharge(fee, amount);
+  return fee;
+}
+
+PaymentFee CPaymentService::Billpoint(std::string_view Amount, bool IsDiscounted, bool IsCreditCard,
+                                      bool IsInternational, std::string_view RateText) {
+  CAuctionSite& site = schedule();
+  const double amount = toDouble(Amount, m_locale);
+  PaymentFee fee;
+  fee.rate = ConversionRateFromText(RateText);
+  site.ConversionRate(fee.rate);
+  fee.flatFee = site.BillpointFlatFee();
+  // Compared like the bounds, in single precision: an amount at a converted bound is not above it.
+  const auto compared = static_cast<float>(amount);
+  if (compared <= site.BillpointThreshold()) {
+    fee.text = plainText(fee.flatFee, m_locale);
+  } else if (compared > site.BillpointMax(IsDiscounted, IsCreditCard)) {
+    fee.text = "N/A";
+  } else {
+    fee.share = static_cast<double>(IsCreditCard ? site.BillpointCCRate(IsDiscounted)
+                                                 : site.BillpointEcheckRate(IsDiscounted));
+    fee.shareOfAmount = fee.share * amount;
+    fee.text = plainText(storedAsSingle(fee.shareOfAmount + static_cast<double>(fee.flatFee)), m_locale);
+  }
+  if (IsInternational && isNumeric(fee.text, m_locale)) addInternationalSurcharge(fee, amount);
+  return fee;
 }
 
 std::string CPaymentService::PayPalFee(std::string_view Amount, bool IsMerchantRate, bool IsCreditCard,
                                        std::string_view RateText, bool IsInternational) {
-  CAuctionSite& site = schedule();
-  site.ConversionRate(ConversionRateFromText(RateText));
-  const double amount = toDouble(Amount, m_locale);
-  const double share = IsMerchantRate ? kMerchantShare : kStandardShare;
-  std::string fee = plainText(amount * share + static_cast<double>(site.PayPalFlatFee()), m_locale);
-  if (!IsCreditCard) {
-    const float cap = site.PayPalMaxFeeNonCC();
-    if (toSingle(fee, m_locale) > cap) fee = plainText(cap, m_locale);
-  }
-  if (IsInternational) fee = withInternationalSurcharge(fee, amount);
-  return fee;
+  return PayPal(Amount, IsMerchantRate, IsCreditCard, RateText, IsInternational).text;
 }
 
 std::string CPaymentService::BillpointFee(std::string_view Amount, bool IsDiscounted, bool IsCreditCard,
                                           bool IsInternational, std::string_view RateText) {
-  CAuctionSite& site = schedule();
-  const double amount = toDouble(Amount, m_locale);
-  site.ConversionRate(ConversionRateFromText(RateText));
-  const float flatFee = site.BillpointFlatFee();
-  // Compared like the bounds, in single precision: an amount at a converted bound is not above it.
-  const auto compared = static_cast<float>(amount);
-  std::string fee;
-  if (compared <= site.BillpointThreshold()) {
-    fee = plainText(flatFee, m_locale);
-  } else if (compared > site.BillpointMax(IsDiscounted, IsCreditCard)) {
-    fee = "N/A";
-  } else {
-    const float rate =
-        IsCreditCard ? site.BillpointCCRate(IsDiscounted) : site.BillpointEcheckRate(IsDiscounted);
-    fee = plainText(storedAsSingle(static_cast<double>(rate) * amount + static_cast<double>(flatFee)),
-                    m_locale);
-  }
-  if (IsInternational && isNumeric(fee, m_locale)) fee = withInternationalSurcharge(fee, amount);
-  return fee;
+  return Billpoint(Amount, IsDiscounted, IsCreditCard, IsInternational, RateText).text;
 }

@@ -1,11 +1,24 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "auction_site.h"
 #include "number_locale.h"
+
+/// A payment fee and how it came about: a share of the amount and the flat fee, then the cap, then the
+/// surcharge for international payments.
+struct PaymentFee {
+  std::string text;            ///< the fee in plain number text, or "N/A"
+  float rate = 0.0F;           ///< the exchange rate that was calculated with
+  double share = 0.0;          ///< the fraction of the amount; 0 where the flat fee is all
+  double shareOfAmount = 0.0;  ///< that fraction of the amount
+  float flatFee = 0.0F;
+  std::optional<float> cap;         ///< what the two were cut to, if they were
+  std::optional<double> surcharge;  ///< if there is one
+};
 
 /// What a payment service takes from an amount that a seller receives. The percentages of PayPal are the same
 /// on all sites and stand here; flat fees, caps and all of Billpoint's figures are the schedule's.
@@ -15,6 +28,10 @@
 /// amount that is no number throws ConversionError, one too large OverflowError.
 class CPaymentService {
  public:
+  static constexpr double kMerchantShare = 0.022;
+  static constexpr double kStandardShare = 0.029;
+  static constexpr double kInternationalShare = 0.01;
+
   explicit CPaymentService(NumberLocale locale) : m_locale(std::move(locale)) {}
 
   /// The schedule to ask and to tell the rate. It must outlive this object.
@@ -29,10 +46,16 @@ class CPaymentService {
   [[nodiscard]] std::string BillpointFee(std::string_view Amount, bool IsDiscounted, bool IsCreditCard,
                                          bool IsInternational, std::string_view RateText);
 
+  /// The same two fees with the steps that lead to them.
+  [[nodiscard]] PaymentFee PayPal(std::string_view Amount, bool IsMerchantRate, bool IsCreditCard,
+                                  std::string_view RateText, bool IsInternational);
+  [[nodiscard]] PaymentFee Billpoint(std::string_view Amount, bool IsDiscounted, bool IsCreditCard,
+                                     bool IsInternational, std::string_view RateText);
+
  private:
   [[nodiscard]] CAuctionSite& schedule();
   [[nodiscard]] float ConversionRateFromText(std::string_view text);
-  [[nodiscard]] std::string withInternationalSurcharge(std::string_view fee, double amount) const;
+  void addInternationalSurcharge(PaymentFee& fee, double amount) const;
 
   NumberLocale m_locale;
   CAuctionSite m_noSite;

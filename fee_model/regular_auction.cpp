@@ -3,7 +3,6 @@
 #include <array>
 
 #include "amount_text.h"
-#include "fee_total.h"
 
 namespace {
 
@@ -31,15 +30,18 @@ LadderStep listingFeeStep(const CAuctionSite& site, float price) {
   }};
   // A bound is compared in single precision like the price: 0.01 as double would lie above the price 0.01.
   auto lower = static_cast<float>(kCent);
+  int number = 1;
   for (const Tier& tier : tiers) {
-    if (lower <= price && price <= tier.upper) return {true, tier.fee};
+    if (lower <= price && price <= tier.upper) return {true, tier.fee, number, lower, tier.upper};
     lower = storedAsSingle(static_cast<double>(tier.upper) + kCent);
+    ++number;
   }
-  if (price > tiers.back().upper) return {true, site.ListingFeeSeventhTier()};
+  const float last = tiers.back().upper;
+  if (price > last) return {true, site.ListingFeeSeventhTier(), number, last, last};
   return {};
 }
 
-float tieredFinalValueFee(const CAuctionSite& site, float bid) {
+FinalValueParts::FinalValueParts(const CAuctionSite& site, float bid) {
   const double price = static_cast<double>(bid);
   const double secondLower = static_cast<double>(site.FVFSecondTierLower());
   const double thirdLower = static_cast<double>(site.FVFThirdTierLower());
@@ -48,11 +50,67 @@ float tieredFinalValueFee(const CAuctionSite& site, float bid) {
   const double thirdRate = static_cast<double>(site.FVFThirdTier());
   // The first tier ends one cent below the second's bound; the third starts at its bound itself.
   const double firstUpper = secondLower - kCent;
-  if (price < secondLower) return storedAsSingle(firstRate * price);
-  const double firstPart = firstUpper * firstRate;
-  if (price <= thirdLower) return storedAsSingle(firstPart + (price - firstUpper) * secondRate);
-  return storedAsSingle(firstPart + (thirdLower - firstUpper) * secondRate +
-                        (price - thirdLower) * thirdRate);
+  const auto add = [this](double share, double base, double above, double upTo) {
+    m_parts[m_count++] = {share, base, above, upTo};
+  };
+  if (price < secondLower) {
+    add(firstRate, price, 0.0, firstUpper);
+    return;
+  }
+  add(firstRate, firstUpper, 0.0, firstUpper);
+  add(secondRate, (price <= thirdLower ? price : thirdLower) - firstUpper, firstUpper, thirdLower);
+  if (price > thirdLower) add(thirdRate, price - thirdLower, thirdLower, 0.0);
+}
+
+float FinalValueParts::fee() const {
+  double sum = 0.0;
+  for (const Part& part : parts()) sum += part.amount();
+  return storedAsSingle(sum);
+}
+
+float tieredFinalValueFee(const CAuctionSite& site, float bid) { return FinalValueParts(site, bid).fee(); }
+
+ReserveStep reserveStep(const CAuctionSite& site, float reserve, bool IsVehicle, bool IsRealEstateAd) {
+  constexpr bool isReducedReserve = false;  // no control offers it
+  if (reserve < site.ReserveSecondTierLower())
+    return {1, site.ReserveFirstTier(reserve, IsVehicle, isReducedReserve)};
+  if (reserve < site.ReserveThirdTierLower(IsVehicle, IsRealEstateAd))
+    return {2, site.ReserveSecondTier(reserve, IsVehicle, isReducedReserve)};
+  return {3, site.ReserveThirdTier(reserve, IsVehicle, isReducedReserve)};
+}
+
+float extraFeatures(const ListingFeatures& chosen, const CAuctionSite& site, FeeRecord* record) {
+  using enum ExtraFeature;
+  constexpr bool isMultipleItem = false;
+  FeeTotal fees(chosen.IsTwoCategories, record);
+  if (chosen.IsFeaturedPlus)
+    fees.addDoubledForTwoCategories(FeaturedPlus, site.FeaturedPlusFee(chosen.IsMotors, isMultipleItem));
+  if (chosen.IsHomePageFeatured) fees.add(HomePageFeatured, site.HomePageFeaturedFee(1));
+  // Gallery featured includes the gallery.
+  if (chosen.IsGallery && chosen.IsGalleryFeatured) fees.leaveOut(Gallery);
+  if (chosen.IsGallery && !chosen.IsGalleryFeatured) {
+    fees.addDoubledForTwoCategories(
+        Gallery, site.GalleryFee(chosen.IsVehicle, chosen.HasExtraPhotos, chosen.PhotoChoice));
+  }
+  if (chosen.IsGalleryFeatured) {
+    fees.addDoubledForTwoCategories(GalleryFeatured,
+                                    site.GalleryFeaturedFee(chosen.IsMotors, chosen.IsVehicle));
+  }
+  if (chosen.IsBold)
+    fees.addDoubledForTwoCategories(Bold, site.BoldFee(chosen.IsVehicle, chosen.IsRealEstateType));
+  if (chosen.IsHighlight) fees.addDoubledForTwoCategories(Highlight, site.HighlightFee());
+  if (chosen.IsGiftIcon) fees.addDoubledForTwoCategories(GiftIcon, site.GiftIconFee(chosen.IsVehicle));
+  if (chosen.IsTenDayAuction)
+    fees.addDoubledForTwoCategories(TenDayAuction, site.TenDayAuctionFee(chosen.IsVehicle));
+  if (chosen.IsBIN)
+    fees.addDoubledForTwoCategories(BuyItNow, site.BINFee(chosen.IsVehicle, chosen.IsMotorcycle));
+  if (chosen.IsScheduled) fees.add(Scheduled, site.ScheduledListingFee(chosen.IsVehicle));
+  if (chosen.IsListingDesigner) fees.addDoubledForTwoCategories(ListingDesigner, site.ListingDesignerFee());
+  if (chosen.IsSubtitle) fees.addDoubledForTwoCategories(Subtitle, site.SubtitleFee());
+  fees.addDoubledForTwoCategories(
+      Pictures, site.PhotosFee(chosen.HasExtraPhotos, chosen.PhotoChoice, chosen.IsSupersize,
+                               chosen.IsSlideshow, chosen.IsVehicle));
+  return fees.total();
 }
 
 const CAuctionSite& CRegularAuction::schedule() const {
@@ -95,47 +153,14 @@ std::string CRegularAuction::FVF(std::string_view HighBidText, std::string_view 
 std::string CRegularAuction::ReserveFee(std::string_view ReservePrice, std::string_view fees,
                                         std::string_view insertionFee, bool IsTwoCategories, bool IsVehicle,
                                         bool IsRealEstateAd) const {
-  constexpr bool isReducedReserve = false;  // no control offers it
   const float reserve = toSingle(ReservePrice, m_locale);
   toSingle(fees, m_locale);
   toSingle(insertionFee, m_locale);
-  const CAuctionSite& site = schedule();
-  float fee = 0.0F;
-  if (reserve < site.ReserveSecondTierLower()) {
-    fee = site.ReserveFirstTier(reserve, IsVehicle, isReducedReserve);
-  } else if (reserve < site.ReserveThirdTierLower(IsVehicle, IsRealEstateAd)) {
-    fee = site.ReserveSecondTier(reserve, IsVehicle, isReducedReserve);
-  } else {
-    fee = site.ReserveThirdTier(reserve, IsVehicle, isReducedReserve);
-  }
+  float fee = reserveStep(schedule(), reserve, IsVehicle, IsRealEstateAd).fee;
   if (IsTwoCategories) fee = storedAsSingle(static_cast<double>(fee) + static_cast<double>(fee));
   return plainText(fee, m_locale);
 }
 
 std::string CRegularAuction::ExtraFeaturesFee(const ListingFeatures& chosen) const {
-  const CAuctionSite& site = schedule();
-  constexpr bool isMultipleItem = false;
-  FeeTotal fees(chosen.IsTwoCategories);
-  if (chosen.IsFeaturedPlus)
-    fees.addDoubledForTwoCategories(site.FeaturedPlusFee(chosen.IsMotors, isMultipleItem));
-  if (chosen.IsHomePageFeatured) fees.add(site.HomePageFeaturedFee(1));
-  // Gallery featured includes the gallery.
-  if (chosen.IsGallery && !chosen.IsGalleryFeatured) {
-    fees.addDoubledForTwoCategories(
-        site.GalleryFee(chosen.IsVehicle, chosen.HasExtraPhotos, chosen.PhotoChoice));
-  }
-  if (chosen.IsGalleryFeatured) {
-    fees.addDoubledForTwoCategories(site.GalleryFeaturedFee(chosen.IsMotors, chosen.IsVehicle));
-  }
-  if (chosen.IsBold) fees.addDoubledForTwoCategories(site.BoldFee(chosen.IsVehicle, chosen.IsRealEstateType));
-  if (chosen.IsHighlight) fees.addDoubledForTwoCategories(site.HighlightFee());
-  if (chosen.IsGiftIcon) fees.addDoubledForTwoCategories(site.GiftIconFee(chosen.IsVehicle));
-  if (chosen.IsTenDayAuction) fees.addDoubledForTwoCategories(site.TenDayAuctionFee(chosen.IsVehicle));
-  if (chosen.IsBIN) fees.addDoubledForTwoCategories(site.BINFee(chosen.IsVehicle, chosen.IsMotorcycle));
-  if (chosen.IsScheduled) fees.add(site.ScheduledListingFee(chosen.IsVehicle));
-  if (chosen.IsListingDesigner) fees.addDoubledForTwoCategories(site.ListingDesignerFee());
-  if (chosen.IsSubtitle) fees.addDoubledForTwoCategories(site.SubtitleFee());
-  fees.addDoubledForTwoCategories(site.PhotosFee(chosen.HasExtraPhotos, chosen.PhotoChoice,
-                                                 chosen.IsSupersize, chosen.IsSlideshow, chosen.IsVehicle));
-  return twoDecimals(fees.total(), m_locale);
+  return twoDecimals(extraFeatures(chosen, schedule()), m_locale);
 }

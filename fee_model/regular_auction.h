@@ -1,10 +1,13 @@
 #pragma once
 
+#include <array>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "auction_site.h"
+#include "fee_total.h"
 #include "number_locale.h"
 
 /// The choices that ExtraFeaturesFee charges for, in the order of the tab's controls.
@@ -76,8 +79,43 @@ class CRegularAuction {
 struct LadderStep {
   bool isOnLadder = false;
   float fee = 0.0F;
+  int tier = 0;        ///< 1 to 7
+  float lower = 0.0F;  ///< the lowest price of the tier; of the seventh, the bound that it lies above
+  float upper = 0.0F;  ///< the highest; the seventh has none
 };
 LadderStep listingFeeStep(const CAuctionSite& site, float price);
+
+/// What the features of a single item add up to, in single precision, with every addition noted in `record`.
+float extraFeatures(const ListingFeatures& chosen, const CAuctionSite& site, FeeRecord* record = nullptr);
+
+/// The reserve fee of one category, and the tier of the schedule that it comes from.
+struct ReserveStep {
+  int tier = 1;  ///< 1 to 3
+  float fee = 0.0F;
+};
+ReserveStep reserveStep(const CAuctionSite& site, float reserve, bool IsVehicle, bool IsRealEstateAd);
+
+/// The final value fee of one sold item tier by tier, each a share of the part of the bid that lies in it.
+class FinalValueParts {
+ public:
+  struct Part {
+    double share = 0.0;  ///< a fraction
+    double base = 0.0;   ///< the part of the bid
+    double above = 0.0;  ///< what lies below the tier
+    double upTo = 0.0;   ///< where the tier ends; 0 for the last
+    [[nodiscard]] double amount() const { return base * share; }
+  };
+
+  FinalValueParts(const CAuctionSite& site, float bid);
+
+  [[nodiscard]] std::span<const Part> parts() const { return std::span(m_parts).first(m_count); }
+  /// The sum of the parts, made in double and stored in single precision.
+  [[nodiscard]] float fee() const;
+
+ private:
+  std::array<Part, 3> m_parts;
+  std::size_t m_count = 0;
+};
 
 /// The three-tier final value fee of one sold item, in single precision.
 float tieredFinalValueFee(const CAuctionSite& site, float bid);

@@ -90,7 +90,7 @@ class SingleItemRecalculation {
   }
 
   void ExtraFeatures() {
-    m_boxes.txtExtras = m_calculator->ExtraFeaturesFee(chosenFeatures());
+    m_boxes.txtExtras = m_calculator->ExtraFeaturesFee(chosenFeatures(m_choices));
     m_boxes.txtFees = twoDecimals(number(m_boxes.txtFees) + number(m_boxes.txtExtras), m_locale);
   }
 
@@ -101,30 +101,6 @@ class SingleItemRecalculation {
   void formatPrices() {
     m_boxes.txtPrice = twoDecimals(std::string_view(m_boxes.txtPrice), m_locale);
     m_boxes.txtStartingPrice = twoDecimals(std::string_view(m_boxes.txtStartingPrice), m_locale);
-  }
-
-  [[nodiscard]] ListingFeatures chosenFeatures() const {
-    return {.IsTwoCategories = m_choices.chkTwoCategories,
-            .IsFeaturedPlus = m_choices.chkFeaturedCategory,
-            .IsHomePageFeatured = m_choices.chkFeatured,
-            .IsGallery = m_choices.chkGallery,
-            .IsGalleryFeatured = m_choices.chkGalleryFeatured,
-            .IsMotors = m_choices.chkMotors,
-            .IsVehicle = m_choices.chkVehicle,
-            .IsMotorcycle = m_choices.optMotorcycle,
-            .IsRealEstateType = m_choices.cboRealEstateType != 0,
-            .IsHighlight = m_choices.chkHighlighted,
-            .IsGiftIcon = m_choices.chkGiftIcon,
-            .IsBIN = m_choices.chkBIN,
-            .IsTenDayAuction = m_choices.chkTenDayAuction,
-            .IsBold = m_choices.chkBold,
-            .HasExtraPhotos = m_choices.chkExtraPhotos,
-            .PhotoChoice = m_choices.cboExtraPhotos,
-            .IsSupersize = m_choices.chkSupersizePhotos,
-            .IsSlideshow = m_choices.chkSlideshow,
-            .IsScheduled = m_choices.chkScheduled,
-            .IsListingDesigner = m_choices.chkListingDesigner,
-            .IsSubtitle = m_choices.chkSubTitleSingleItem};
   }
 
   [[nodiscard]] Currency number(std::string_view text) const { return toCurrency(text, m_locale); }
@@ -142,6 +118,30 @@ class SingleItemRecalculation {
 void recalculateSingleItem(const SingleItemChoices& choices, CRegularAuction* calculator,
                            const NumberLocale& locale, SingleItemBoxes& boxes) {
   SingleItemRecalculation(choices, calculator, locale, boxes).run();
+}
+
+ListingFeatures chosenFeatures(const SingleItemChoices& choices) {
+  return {.IsTwoCategories = choices.chkTwoCategories,
+          .IsFeaturedPlus = choices.chkFeaturedCategory,
+          .IsHomePageFeatured = choices.chkFeatured,
+          .IsGallery = choices.chkGallery,
+          .IsGalleryFeatured = choices.chkGalleryFeatured,
+          .IsMotors = choices.chkMotors,
+          .IsVehicle = choices.chkVehicle,
+          .IsMotorcycle = choices.optMotorcycle,
+          .IsRealEstateType = choices.cboRealEstateType != 0,
+          .IsHighlight = choices.chkHighlighted,
+          .IsGiftIcon = choices.chkGiftIcon,
+          .IsBIN = choices.chkBIN,
+          .IsTenDayAuction = choices.chkTenDayAuction,
+          .IsBold = choices.chkBold,
+          .HasExtraPhotos = choices.chkExtraPhotos,
+          .PhotoChoice = choices.cboExtraPhotos,
+          .IsSupersize = choices.chkSupersizePhotos,
+          .IsSlideshow = choices.chkSlideshow,
+          .IsScheduled = choices.chkScheduled,
+          .IsListingDesigner = choices.chkListingDesigner,
+          .IsSubtitle = choices.chkSubTitleSingleItem};
 }
 
 bool itemSold(const SingleItemChoices& choices, const SingleItemBoxes& boxes, const NumberLocale& locale) {

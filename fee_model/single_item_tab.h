@@ -37,6 +37,8 @@ struct SingleItemChoices {
   bool chkHighlighted = false;
   bool chkBold = false;
   bool chkGiftIcon = false;
+
+  friend bool operator==(const SingleItemChoices&, const SingleItemChoices&) = default;
 };
 
 /// The texts of the tab's boxes, in the user's locale.
@@ -54,6 +56,9 @@ struct SingleItemBoxes {
 /// skipped.
 void recalculateSingleItem(const SingleItemChoices& choices, CRegularAuction* calculator,
                            const NumberLocale& locale, SingleItemBoxes& boxes);
+
+/// The choices in the terms of the calculator.
+ListingFeatures chosenFeatures(const SingleItemChoices& choices);
 
 /// False if the item did not sell, or if its reserve was set and not met.
 bool itemSold(const SingleItemChoices& choices, const SingleItemBoxes& boxes, const NumberLocale& locale);

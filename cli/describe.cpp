@@ -62,7 +62,7 @@ void appendOption(std::string& page, const CLI::Option& option) {
 }
 
 /// Within single quotes of a shell.
-std::string inQuotes(const std::string& text) { return "'" + replaced(text, "'", "'\\''") + "'"; }
+std::string inQuotes(const std::string& text) { return "'" + replaced(text, "'", R"('\'')") + "'"; }
 
 }  // namespace
 

@@ -25,9 +25,19 @@ void ListingOptions::addTo(CLI::App& command, OptionScope scope,
   }
 }
 
+bool ListingOptions::isGiven(std::string_view name) const {
+  return std::any_of(m_values.begin(), m_values.end(),
+                     [name](const auto& value) { return value.first->name == name; });
+}
+
 Listing ListingOptions::listing(ListingKind kind, const NumberLocale& locale, bool hasDecimal) const {
   Listing listing = plainListing(kind);
   for (const auto& [option, value] : m_values) {
+    // Those of a payment go with any listing: it is paid for.
+    if ((option->scope & (scopeOf(kind) | ForPayments)) == 0) {
+      throw OptionError("--" + std::string(option->name) + " is not for listings of kind \"" +
+                        std::string(nameOf(kind)) + '"');
+    }
     checkValue(*option, value, locale, hasDecimal);
     option->set(listing, value);
   }

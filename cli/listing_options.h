@@ -13,7 +13,9 @@ class ListingOptions {
   /// Adds the options of that scope but those named in `left`, which the command finds by itself.
   void addTo(CLI::App& command, OptionScope scope, std::initializer_list<std::string_view> left = {});
 
-  /// The listing they make, checked. Throws OptionError.
+  [[nodiscard]] bool isGiven(std::string_view name) const;
+
+  /// The listing they make, checked. Throws OptionError, also for an option that is not for that kind.
   [[nodiscard]] Listing listing(ListingKind kind, const NumberLocale& locale, bool hasDecimal) const;
 
  private:

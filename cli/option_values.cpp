@@ -5,6 +5,7 @@
 
 #include "amount_text.h"
 #include "entry_rules.h"
+#include "short_amount.h"
 
 namespace {
 
@@ -74,13 +75,20 @@ bool flagOf(std::string_view text) {
 
 void checkValue(const Option& option, std::string_view text, const NumberLocale& locale, bool hasDecimal) {
   if (option.kind == OptionKind::Flag || option.kind == OptionKind::Choice || text.empty()) return;
-  constexpr std::size_t shown = 40;
-  const std::string subject = std::string(option.name) + ": \"" + std::string(text.substr(0, shown)) + "\" ";
+  // Nearly every number is plain: with three decimals alone it could mean another.
+  const auto amount = shortAmountOf(text, locale);
+  constexpr int groupDigits = 3;
+  if (amount && amount->units >= 0 && amount->decimals != groupDigits) return;
+  const auto fail = [&](std::string_view why) {
+    constexpr std::size_t shown = 40;
+    throw OptionError(std::string(option.name) + ": \"" + std::string(text.substr(0, shown)) + "\" " +
+                      std::string(why));
+  };
   // A rate is near one: there is nothing to group.
   if (!hasDecimal && option.kind != OptionKind::Rate && isAmbiguous(text))
-    throw OptionError(subject + "could mean two numbers: say --decimal . or --decimal ,");
-  if (!isNumeric(text, locale)) throw OptionError(subject + "is no number");
-  if (isNegative(text, locale)) throw OptionError(subject + "is below zero");
+    fail("could mean two numbers: say --decimal . or --decimal ,");
+  if (!isNumeric(text, locale)) fail("is no number");
+  if (isNegative(text, locale)) fail("is below zero");
 }
 
 std::string_view valueName(OptionKind kind) {

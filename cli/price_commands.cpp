@@ -3,30 +3,24 @@
 #include <array>
 #include <memory>
 
+#include "explain.h"
 #include "listing_options.h"
 #include "option_values.h"
-#include "pricing.h"
 
 namespace {
 
-struct FeeRow {
-  const char* key;
-  const char* heading;
-  std::string Fees::*fee;
-};
-
-constexpr std::array<FeeRow, 7> kFeeRows{{{"insertion_fee", "Listing fee", &Fees::insertion},
-                                          {"reserve_fee", "Reserve fee", &Fees::reserve},
-                                          {"extra_features", "Extra features", &Fees::extras},
-                                          {"final_value_fee", "Final value fee", &Fees::finalValue},
-                                          {"total_fees", "Total fees", &Fees::total},
-                                          {"payment_fee", "Payment fee", &Fees::payment},
-                                          {"net", "Net", &Fees::net}}};
+constexpr std::array<FeeColumn, 7> kFeeColumns{{{"insertion_fee", "Listing fee", &Fees::insertion},
+                                                {"reserve_fee", "Reserve fee", &Fees::reserve},
+                                                {"extra_features", "Extra features", &Fees::extras},
+                                                {"final_value_fee", "Final value fee", &Fees::finalValue},
+                                                {"total_fees", "Total fees", &Fees::total},
+                                                {"payment_fee", "Payment fee", &Fees::payment},
+                                                {"net", "Net", &Fees::net}}};
 
 /// One line for each fee, for people.
 Table verticalTable(const Fees& fees, const std::string& currency) {
   Table table{.title = {}, .columns = {{"fee", ""}, {"currency", ""}, {"amount", "", true}}, .rows = {}};
-  for (const FeeRow& row : kFeeRows) {
+  for (const FeeColumn& row : kFeeColumns) {
     if (!(fees.*row.fee).empty()) table.rows.push_back({row.heading, currency, fees.*row.fee});
   }
   return table;
@@ -36,7 +30,7 @@ Table verticalTable(const Fees& fees, const std::string& currency) {
 Table horizontalTable(const Fees& fees, const std::string& currency) {
   Table table;
   std::vector<std::string> cells;
-  for (const FeeRow& row : kFeeRows) {
+  for (const FeeColumn& row : kFeeColumns) {
     table.columns.push_back({row.key, row.heading, true});
     cells.push_back(fees.*row.fee);
   }
@@ -58,9 +52,18 @@ constexpr std::array<PriceCommand, 4> kCommands{{
     {ListingKind::Billpoint, "What eBay Payments keeps of a payment"},
 }};
 
-void price(const ListingOptions& options, ListingKind kind, Session& session) {
+struct PriceOptions {
+  ListingOptions listing;
+  bool isExplained = false;
+};
+
+void price(const PriceOptions& options, ListingKind kind, Session& session) {
   Pricer pricer(session.locale());
-  const Listing listing = options.listing(kind, session.locale(), !session.decimal.empty());
+  const Listing listing = options.listing.listing(kind, session.locale(), !session.decimal.empty());
+  if (options.isExplained) {
+    return session.write(
+        explanationTable(explain(pricer, listing), Pricer::currencyOf(listing), session.format));
+  }
   const Fees fees = pricer.price(listing);
   const std::string currency = Pricer::currencyOf(listing);
   session.write(session.format == Format::Text ? verticalTable(fees, currency)
@@ -72,9 +75,12 @@ void price(const ListingOptions& options, ListingKind kind, Session& session) {
 void addPriceCommands(CLI::App& program, Session& session) {
   for (const PriceCommand& row : kCommands) {
     CLI::App* command = program.add_subcommand(std::string(nameOf(row.kind)), row.help);
-    const auto options = std::make_shared<ListingOptions>();
-    options->addTo(*command, scopeOf(row.kind));
+    const auto options = std::make_shared<PriceOptions>();
+    options->listing.addTo(*command, scopeOf(row.kind));
+    command->add_flag("--explain", options->isExplained, "every amount with the rule that produced it");
     addOutputOptions(*command, session);
     command->callback([options, kind = row.kind, &session] { price(*options, kind, session); });
   }
 }
+
+std::span<const FeeColumn> feeColumns() { return kFeeColumns; }

@@ -67,7 +67,7 @@ Fees Pricer::price(const Listing& listing) {
     case ListingKind::Single:
       return singleFees(listing);
     case ListingKind::Multiple:
-      return multipleFees();
+      return multipleFees(listing);
     case ListingKind::Payment:
     case ListingKind::Billpoint:
       break;
@@ -97,14 +97,19 @@ Fees Pricer::singleFees(const Listing& listing) {
   return fees;
 }
 
-Fees Pricer::multipleFees() {
+Fees Pricer::multipleFees(const Listing& listing) {
   const MultipleItemsBoxes& boxes = m_boxes.multiple;
   if (boxes.txtDutchFees.empty())
     throw PricingError("items offered, opening price, items sold and lowest bid are needed");
+  // The box of the lowest bid shows two decimals; the fee was taken from the bid as it was entered.
+  const bool isAtOpening =
+      toInteger16(boxes.txtDutchItemsSold, m_locale) < toInteger16(listing.offered, m_locale) ||
+      number(listing.closing) < number(listing.opening);
+  const std::string& lowestBid = isAtOpening ? listing.opening : listing.closing;
   Fees fees{.insertion = {},
             .reserve = {},
             .extras = boxes.txtExtraFeaturesDutch,
-            .finalValue = m_dutchAuction.FVF(boxes.txtDutchFinalPrice, boxes.txtDutchItemsSold),
+            .finalValue = m_dutchAuction.FVF(lowestBid, boxes.txtDutchItemsSold),
             .total = boxes.txtDutchFees,
             .payment = {},
             .net = {}};

@@ -54,7 +54,7 @@ class Pricer {
  private:
   void recalculateBillpoint(const Listing& listing, std::string& fee);
   Fees singleFees(const Listing& listing);
-  Fees multipleFees();
+  Fees multipleFees(const Listing& listing);
   Fees paymentFees(const Listing& listing);
   [[nodiscard]] Currency number(const std::string& text) const;
 

@@ -1,0 +1,69 @@
+#include "batch_columns.h"
+
+#include <algorithm>
+
+#include "option_values.h"
+
+namespace {
+
+/// The name of a column as the options are named: in lower case, with "-".
+std::string optionName(std::string_view column) {
+  constexpr char toLower = 'a' - 'A';
+  std::string name(withoutBlanks(column));
+  for (char& c : name) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + toLower);
+    if (c == '_') c = '-';
+  }
+  return name;
+}
+
+/// The column with a name, if there is one.
+std::optional<std::size_t> columnNamed(const std::vector<std::string>& names, std::string_view name) {
+  const auto found = std::find(names.begin(), names.end(), name);
+  if (found == names.end()) return std::nullopt;
+  if (std::find(found + 1, names.end(), name) != names.end())
+    throw OptionError("two columns are named \"" + std::string(name) + "\"");
+  return static_cast<std::size_t>(found - names.begin());
+}
+
+/// Shares the columns out to the kinds of listings that they are for; true if there is any.
+template <typename Setter>
+bool share(std::span<const Setter> setters, const std::vector<std::string>& names,
+           std::array<std::vector<SetColumn<Setter>>, 4>& columns) {
+  bool isAny = false;
+  for (const Setter& setter : setters) {
+    const auto at = columnNamed(names, setter.name);
+    if (!at) continue;
+    isAny = true;
+    for (std::size_t kind = 0; kind < columns.size(); ++kind) {
+      if ((setter.scope & scopeOf(static_cast<ListingKind>(kind))) != 0)
+        columns.at(kind).push_back({*at, &setter});
+    }
+  }
+  return isAny;
+}
+
+}  // namespace
+
+std::string_view withoutBlanks(std::string_view text) {
+  const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
+  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+BatchColumns batchColumns(const CsvRow& header, bool isFromWindow) {
+  BatchColumns columns;
+  columns.count = header.cells.size();
+  std::vector<std::string> names;
+  for (const std::string_view cell : header.cells)
+    names.push_back(isFromWindow ? std::string(withoutBlanks(cell)) : optionName(cell));
+  columns.kind = columnNamed(names, "kind");
+  const bool isAny = isFromWindow ? share(windowControls(), names, columns.controls)
+                                  : share(options(), names, columns.options);
+  if (!isAny && !columns.kind)
+    throw OptionError(isFromWindow
+                          ? "the first line names neither kind nor site nor a control of the window"
+                          : "the first line names no column that is known, such as kind, site or opening");
+  return columns;
+}

@@ -71,7 +71,7 @@ std::string manualPage(const CLI::App& program, const std::string& version) {
   std::string upper = name;
   std::transform(upper.begin(), upper.end(), upper.begin(),
                  [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
-  std::string page = ".TH " + upper + " 1 \"\" \"Tessaloom " + version + "\"\n.SH NAME\n" + roff(name) +
+  std::string page = ".TH " + upper + R"( 1 "" "Tessaloom )" + version + "\"\n.SH NAME\n" + roff(name) +
                      " \\- " + roff(program.get_description()) + "\n.SH SYNOPSIS\n";
   for (const CLI::App* command : commandsOf(program))
     page += ".B " + roff(name + " " + command->get_name()) + "\n[\\fIOPTION\\fR]...\n.br\n";

@@ -254,7 +254,8 @@ class UpdateCheckTest : public QObject {
     const auto met = inNextModal([](const QWidget& prompt) { push(prompt, "cmdCheck"); });
     const auto window = Start::Main(world.surroundings(), speakEnglish);
     QCOMPARE(*met, 1);
-    QVERIFY(!world.messages.shown.isEmpty());
+    letItSettle();
+    QCOMPARE(world.messages.shown.size(), 1);
     QCOMPARE(world.messages.shown[0].second, QStringLiteral("The settings could not be stored in memory."));
     QVERIFY(window->isVisible());
     QCOMPARE(world.web.asked.size(), 1);

@@ -13,7 +13,7 @@ DISPLAY_PACKAGES=(xvfb openbox x11-utils xdotool imagemagick)
 # help pages, the manual page and the completions.
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev libcsv-dev xclip
   cups-daemon cups-client cups-filters printer-driver-cups-pdf poppler-utils
-  fish groff-base openssl strace tidy zsh)
+  fish groff-base openssl strace tidy time zsh)
 
 # What .ci/run needs beyond that: the fuzz targets' compiler, format, tidy and script checks.
 CI_PACKAGES=(clang libclang-rt-14-dev clang-format clang-tidy shellcheck git)

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <limits>
 #include <random>
 
 #include "amount_text.h"
@@ -137,7 +138,7 @@ TEST(ShortAmount, OfANumberEndsWhereTheGeneralWayBegins) {
       {"seven digits that round to eight", 9'999'999.5, kSingleDigits, false},
       {"the largest of fifteen digits", 999'999'999'999'999.0, kDoubleDigits, true},
       {"sixteen digits", 1e15, kDoubleDigits, false},
-      {"infinity", INFINITY, kDoubleDigits, false},
+      {"infinity", std::numeric_limits<double>::infinity(), kDoubleDigits, false},
   };
   for (const Row& row : rows) {
     EXPECT_EQ(shortAmountOf(row.value, row.digits).has_value(), row.isShort) << row.rule;

@@ -22,7 +22,7 @@ constexpr ScheduleRow kRows[] = {
     {"a bound",                                     "us", "\"Listing fee, tier 3 up to\",24.99,bound in $",                                true},
     {"an amount",                                   "uk", "Highlight,1.50,amount in GBP",                                                  true},
     {"a rate in per cent",                          "de", "\"Final value fee, tier 1\",5,per cent",                                        true},
-    {"kept in US dollars",                          "ca", "\"PayPal, flat fee\",0.30,\"amount in US dollars, follows the rate\"",          true},
+    {"kept in US dollars",                          "ca", R"("PayPal, flat fee",0.30,"amount in US dollars, follows the rate")",          true},
     {"eBay.com has nothing to convert",             "us", "\"PayPal, flat fee\",0.30,amount in $",                                         true},
     {"the exchange rate",                           "uk", "Exchange rate where none is entered,0.5305,GBP for one US dollar",              true},
     {"what is offered free is there",               "uk", "Ten days,0.00,amount in GBP",                                                   true},
@@ -46,7 +46,8 @@ TEST(Schedule, EachSiteHasTheRowsThatMatterThere) {
 TEST(Schedule, EveryFormatSaysThatItIsBuiltIn) {
   const std::string words = "built in, not eBay's prices of today";
   for (const std::string site : {"us", "uk", "ca", "de"}) {
-    EXPECT_EQ(run({"schedule", "--site", site}).out.find("Fee schedule, site " + site + ": " + words), 0U);
+    const std::string title = std::string("Fee schedule, site ").append(site).append(": ").append(words);
+    EXPECT_EQ(run({"schedule", "--site", site}).out.find(title), 0U);
     std::istringstream csv(run({"schedule", "--site", site, "--format", "csv"}).out);
     std::string line;
     std::getline(csv, line);

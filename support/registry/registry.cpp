@@ -30,6 +30,13 @@ void require(RegistryStatus status, const Operation& operation) {
   if (status != RegistryStatus::Success) fail(operation);
 }
 
+/// False if what the call was about is not there.
+bool wasThere(RegistryStatus status, const Operation& operation) {
+  if (status == RegistryStatus::NotFound) return false;
+  require(status, operation);
+  return true;
+}
+
 std::string belowRoot(std::string_view keyPath) {
   if (keyPath.starts_with('\\')) keyPath.remove_prefix(1);
   return std::string(keyPath);
@@ -188,22 +195,20 @@ std::string CRegistry::ListSubKey(RegistryHandle root, std::string_view keyPath,
 bool CRegistry::DeleteValue(RegistryHandle root, std::string_view keyPath, const std::string& valueName,
                             const std::string& computer) {
   const OpenKey key(m_backend, root, keyPath, computer, kDeleteValue);
-  return m_backend.deleteValue(key.handle(), valueName) == RegistryStatus::Success;
+  return wasThere(m_backend.deleteValue(key.handle(), valueName), kDeleteValue);
 }
 
 bool CRegistry::CreateKey(RegistryHandle root, std::string_view keyPath, const std::string& computer) {
   const Root machine(m_backend, root, computer, kCreateKey);
   RegistryHandle handle = 0;
-  if (m_backend.createKey(machine.handle(), belowRoot(keyPath), kAllAccess, handle) !=
-      RegistryStatus::Success)
-    return false;
+  require(m_backend.createKey(machine.handle(), belowRoot(keyPath), kAllAccess, handle), kCreateKey);
   m_backend.closeKey(handle);
   return true;
 }
 
 bool CRegistry::DeleteKey(RegistryHandle root, std::string_view keyPath, const std::string& computer) {
   const Root machine(m_backend, root, computer, kDeleteKey);
-  return m_backend.deleteKey(machine.handle(), belowRoot(keyPath)) == RegistryStatus::Success;
+  return wasThere(m_backend.deleteKey(machine.handle(), belowRoot(keyPath)), kDeleteKey);
 }
 
 std::string CRegistry::ListSubValue(RegistryHandle root, std::string_view keyPath, std::uint32_t index,
@@ -216,7 +221,5 @@ std::string CRegistry::ListSubValue(RegistryHandle root, std::string_view keyPat
 
 bool CRegistry::KeyExists(RegistryHandle root, std::string_view keyPath, const std::string& computer) {
   const Key key(m_backend, root, keyPath, computer, kKeyExists);
-  if (key.status() == RegistryStatus::NotFound) return false;
-  require(key.status(), kKeyExists);
-  return true;
+  return wasThere(key.status(), kKeyExists);
 }

@@ -50,15 +50,15 @@ class CRegistry {
   [[nodiscard]] std::string ListSubKey(RegistryHandle root, std::string_view keyPath, std::uint32_t index,
                                        const std::string& computer = {});
 
-  /// Whether the value was there and is deleted. 11004 if the key cannot be opened.
+  /// Whether the value was there; now it is not. 11004 if the key cannot be opened or the value not be
+  /// deleted.
   bool DeleteValue(RegistryHandle root, std::string_view keyPath, const std::string& valueName,
                    const std::string& computer = {});
 
-  /// Whether the key is there now. 11005 if the machine cannot be reached.
+  /// Makes a key that is not there yet, and those above it. Always true; 11005 if it cannot be made.
   bool CreateKey(RegistryHandle root, std::string_view keyPath, const std::string& computer = {});
 
-  /// Whether the key was there and is deleted; one with keys below it is not. 11006 if the machine cannot be
-  /// reached.
+  /// Whether the key was there; now it is not. 11006 if it cannot be deleted, as one with keys below it.
   bool DeleteKey(RegistryHandle root, std::string_view keyPath, const std::string& computer = {});
 
   /// The name of the index-th value, from 0. 11007 past the last one.

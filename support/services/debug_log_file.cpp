@@ -11,14 +11,31 @@ namespace {
 /// Longer texts are cut: a line must leave room for others.
 constexpr qsizetype kLongestText = 16'000;
 
+bool isLineBreak(QChar character) {
+  constexpr QStringView lineBreaks = u"\n\v\f\r\x85\u2028\u2029";
+  return lineBreaks.contains(character);
+}
+
+/// A text that no reader of the log takes for more lines than one, or for orders to a terminal.
+QString inOneLine(QString text) {
+  text.replace(u'\\', QStringLiteral("\\\\")).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+  QString line;
+  for (const QChar character : text) {
+    const bool isControl = character.category() == QChar::Other_Control && character != u'\t';
+    if (isLineBreak(character)) {
+      line += QStringLiteral("\\n");
+    } else {
+      line += isControl ? QChar(QChar::ReplacementCharacter) : character;
+    }
+  }
+  return line;
+}
+
 /// One line of UTF-8 without its end.
-QByteArray lineOf(const QDateTime& time, const QString& version, QString text) {
-  text.truncate(kLongestText);
-  text.replace(u'\\', QStringLiteral("\\\\"));
-  text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
-  text.replace(u'\n', QStringLiteral("\\n")).remove(QChar::Null);
+QByteArray lineOf(const QDateTime& time, const QString& version, const QString& text) {
   const QString stamp = time.toOffsetFromUtc(time.offsetFromUtc()).toString(Qt::ISODate);
-  return QString(stamp + u' ' + version + u' ' + text).toUtf8();
+  const QString cut = text.size() > kLongestText ? QStringLiteral(" [cut]") : QString();
+  return QString(stamp + u' ' + version + u' ' + inOneLine(text.left(kLongestText)) + cut).toUtf8();
 }
 
 /// The newer half of the log, in whole lines, takes the place of the log.
@@ -44,10 +61,10 @@ void DebugLogFile::append(const QDateTime& time, const QString& version, const Q
   QLockFile lock(m_path + QStringLiteral(".lock"));
   const bool isAlone = lock.tryLock(patience);
   const QByteArray line = lineOf(time, version, text) + '\n';
-  const bool isFull = QFileInfo(m_path).size() + line.size() >= kLargestSize;
+  const auto isFull = [&] { return QFileInfo(m_path).size() + line.size() >= kLargestSize; };
   // A line more does no harm to those who write at the same time; taking lines away would.
-  if (isFull && !isAlone) return;
-  if (isFull) dropOlderHalf(m_path);
+  if (isFull() && isAlone) dropOlderHalf(m_path);
+  if (isFull()) return;
   QFile log(m_path);
   if (log.open(QIODevice::WriteOnly | QIODevice::Append)) log.write(line);
 }

@@ -4,9 +4,11 @@
 #include <QString>
 
 /// The log of reported errors, "MasterDebugLog.txt" in the user's state folder: one line each with time,
-/// version and text, line breaks written as "\n". It stays under 1 MB: the oldest lines make room for new
-/// ones. Several windows, each a process of its own, share it. What cannot be written is lost without a word:
-/// whoever reports an error is telling it to the user anyway.
+/// version and text. Line breaks are written as "\n", other control characters but tabs as U+FFFD; of a text
+/// of more than 16,000 characters the first ones stand there, with " [cut]" behind. It stays under 1 MB: the
+/// oldest lines make room for new ones, and where they cannot, nothing is added. Several windows, each a
+/// process of its own, share it. What cannot be written is lost without a word: whoever reports an error is
+/// telling it to the user anyway.
 class DebugLogFile {
  public:
   /// `folder` is made when there is something to write.

@@ -4,9 +4,11 @@
 #include <limits>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QStringDecoder>
 #include <utility>
 
 #include "desktop_opener.h"
+#include "program_version.h"
 
 namespace {
 
@@ -21,8 +23,12 @@ constexpr qsizetype kBytesPerCharacter = 4;
 constexpr qsizetype kEnoughBytes = kLongestAnswer * kBytesPerCharacter;
 
 QString textOf(const QByteArray& bytes) {
-  const QString text = QString::fromUtf8(bytes).left(kLongestAnswer);
-  return text.contains(QChar::ReplacementCharacter) ? QString::fromLatin1(bytes).left(kLongestAnswer) : text;
+  // Half a character at the end is none, unless reading has cut it.
+  const bool isWhole = bytes.size() < kEnoughBytes;
+  QStringDecoder utf8(QStringDecoder::Utf8,
+                      isWhole ? QStringDecoder::Flag::Stateless : QStringDecoder::Flag());
+  const QString text = utf8(bytes);
+  return (utf8.hasError() ? QString::fromLatin1(bytes) : text).left(kLongestAnswer);
 }
 
 /// A redirection is followed from https to https; any other ends the question with its own status.
@@ -35,12 +41,17 @@ QNetworkRequest requestFor(const QUrl& address) {
   request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
   request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
   request.setMaximumRedirectsAllowed(kRedirections);
+  // Left to itself Qt says what language the user's desktop speaks, and that a browser asks.
+  request.setRawHeader("Accept-Language", "*");
+  request.setHeader(QNetworkRequest::UserAgentHeader,
+                    QStringLiteral("Tessaloom/") + QLatin1StringView(kProgramVersion));
   return request;
 }
 
 }  // namespace
 
 void NetworkRequest::get(const QUrl& address, Answered answered) {
+  ++m_question;
   m_bytes.clear();
   m_answered = std::move(answered);
   if (!isWebAddress(address.toString())) return deliver(std::nullopt);
@@ -85,9 +96,11 @@ void NetworkRequest::finish(bool isUsable) {
   deliver(isUsable && status == kSuccess ? std::optional(textOf(m_bytes)) : std::nullopt);
 }
 
-// In its own turn: whoever is told may open a window and wait in it. It may be cancelled until then.
+// In its own turn: whoever is told may open a window and wait in it. It may be cancelled until then, and the
+// next question be asked.
 void NetworkRequest::deliver(const std::optional<QString>& text) {
-  const auto tell = [this, text] {
+  const auto tell = [this, text, question = m_question] {
+    if (question != m_question) return;
     if (const Answered answered = std::exchange(m_answered, nullptr)) answered(text);
   };
   QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);

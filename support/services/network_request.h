@@ -11,8 +11,9 @@ class QNetworkReply;
 
 /// Asks over the network: HTTP GET, ten seconds at most for all of it. Certificates are checked as the system
 /// says; a redirection is followed only from https to https, and not for ever. Of an answer the first 32767
-/// characters are read, as UTF-8, or as Latin-1 if they are not that. Nothing of the network is touched
-/// before the first question, and an address that is none of the web is not asked.
+/// characters are read, as UTF-8, or as Latin-1 if it is not that. Beside the address a question says which
+/// program asks, and nothing of the user or the desktop. Nothing of the network is touched before the first
+/// question, and an address that is none of the web is not asked.
 class NetworkRequest : public QObject, public WebRequest {
   Q_OBJECT
 
@@ -34,4 +35,5 @@ class NetworkRequest : public QObject, public WebRequest {
   QTimer m_patience;
   QByteArray m_bytes;
   Answered m_answered;
+  unsigned m_question = 0;  ///< counted, so that an answer is not taken for that to another
 };

@@ -44,8 +44,11 @@ class DebugLog : public ::testing::Test {
 struct LineRow {
   const char* rule;
   QString text;
-  const char* line;
+  std::string line;
 };
+
+const std::string kLongest(16'000, 'x');
+const std::string kCut = kLongest + " [cut]";
 
 // clang-format off
 const LineRow kLineRows[] = {
@@ -57,8 +60,19 @@ const LineRow kLineRows[] = {
     {"a line break at the end",         QStringLiteral("a\n"),                          R"(a\n)"},
     {"a back-slash is no line break",   QStringLiteral(R"(c:\new)"),                    R"(c:\\new)"},
     {"a back-slash before a line break", QStringLiteral("a\\\nb"),                      R"(a\\\nb)"},
-    {"a zero character",                QStringLiteral("a") + QChar(u'\0') + u'b',      "ab"},
+    {"a line separator",                QStringLiteral("a\u2028b"),                     R"(a\nb)"},
+    {"a paragraph separator",           QStringLiteral("a\u2029b"),                     R"(a\nb)"},
+    {"a next line",                     QStringLiteral("a") + QChar(0x85) + u'b',       R"(a\nb)"},
+    {"a vertical tab",                  QStringLiteral("a\vb"),                         R"(a\nb)"},
+    {"a form feed",                     QStringLiteral("a\fb"),                         R"(a\nb)"},
+    {"a zero character",                QStringLiteral("a") + QChar(u'\0') + u'b',      "a\uFFFDb"},
+    {"the start of a terminal's order", QStringLiteral("a\x1B[2Jb"),                    "a\uFFFD[2Jb"},
+    {"a delete",                        QStringLiteral("a\x7F") + u'b',                 "a\uFFFDb"},
+    {"one of the upper controls",       QStringLiteral("a") + QChar(0x9B) + u'b',       "a\uFFFDb"},
+    {"no control beside them",          QStringLiteral(" ~") + QChar(0xA0),             " ~\u00A0"},
     {"quotes, tabs and ampersands",     QStringLiteral("\"a\"\t&"),                     "\"a\"\t&"},
+    {"16,000 characters",               QString(16'000, u'x'),                          kLongest},
+    {"16,001 characters are cut",       QString(16'001, u'x'),                          kCut},
     {"UTF-8",                           QStringLiteral("Käufer 5 € 😀"),                 "Käufer 5 € 😀"},
 };
 // clang-format on
@@ -155,6 +169,20 @@ TEST_F(DebugLog, ShortensWhatSomebodyElseMadeLarge) {
     EXPECT_LT(QFileInfo(path()).size(), 1'000'000);
     EXPECT_TRUE(content().endsWith("2003-02-06T12:30:45+01:00 1.0.0 a\n"));
   }
+}
+
+TEST_F(DebugLog, WhereItCannotBeShortenedItGrowsNoFurther) {
+  // Beside a name as long as names can be there is none for the shorter file.
+  const QString longName = folder + u'/' + QString(255, u'x');
+  ASSERT_TRUE(QDir().mkpath(folder));
+  QFile file(longName);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(QByteArray("line\n").repeated(199'990));
+  file.close();
+  ASSERT_TRUE(QFile::link(longName, path()));
+  const QByteArray before = content();
+  for (int number = 1; number <= 3; ++number) report(QString(100, u'x'));
+  EXPECT_EQ(content(), before);
 }
 
 TEST_F(DebugLog, WhereThereIsNoFolderToMakeItIsSilent) {

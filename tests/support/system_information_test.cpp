@@ -121,9 +121,13 @@ TEST_F(InstalledTool, IsNoneWhereNoneIs) {
   EXPECT_EQ(InstalledSystemInformation().programPath(), QString());
 }
 
-TEST_F(InstalledTool, IsFoundByItsFullPath) {
-  const QString tool = install(QStringLiteral("kinfocenter"));
-  EXPECT_EQ(InstalledSystemInformation().programPath(), tool);
+// From the last choice to the first: each is preferred to those that are there already.
+TEST_F(InstalledTool, IsTheFirstChoiceByItsFullPath) {
+  for (const char* name :
+       {"gnome-system-monitor", "mate-system-monitor", "hardinfo", "hardinfo2", "kinfocenter"}) {
+    const QString tool = install(QString::fromLatin1(name));
+    EXPECT_EQ(InstalledSystemInformation().programPath(), tool);
+  }
 }
 
 TEST_F(InstalledTool, CanBeStarted) {

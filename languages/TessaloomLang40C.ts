@@ -1071,7 +1071,7 @@
     <message id="0442">
         <source>&amp;Join Ostrevane Mailing List</source>
         <extracomment>Caption of mnuHelpSubscribe (menu entry, main window)</extracomment>
-        <translation>S’&amp;abonner à la liste de diffusion d’Ostrevane</translation>
+        <translation>S’&amp;abonner à la liste de diffusion Ostrevane</translation>
     </message>
     <message id="0443">
         <source>Sour&amp;ces</source>
@@ -1191,7 +1191,7 @@
     <message id="0601">
         <source>If this is the first time you are using Tessaloom, please allow it to check the Ostrevane server for updates.  This will ensure the application runs properly, and will only take a moment.</source>
         <extracomment>Prompt of the first-use update check; keep the names Tessaloom and Ostrevane.</extracomment>
-        <translation>Si vous utilisez Tessaloom pour la première fois, autorisez-le à rechercher des mises à jour sur le serveur d’Ostrevane. Cela garantit le bon fonctionnement de l’application et ne prend qu’un instant.</translation>
+        <translation>Si vous utilisez Tessaloom pour la première fois, autorisez-le à rechercher des mises à jour sur le serveur Ostrevane. Cela garantit le bon fonctionnement de l’application et ne prend qu’un instant.</translation>
     </message>
     <message id="0603">
         <source>Error</source>
@@ -1451,7 +1451,7 @@
     <message id="0665">
         <source>Ostrevane Message</source>
         <extracomment>Title of a message box; keep the name Ostrevane.</extracomment>
-        <translation>Message d’Ostrevane</translation>
+        <translation>Message Ostrevane</translation>
     </message>
     <message id="0667">
         <source>Page </source>
@@ -1466,7 +1466,7 @@
     <message id="0669">
         <source>Visit the Ostrevane website for news and more programs for sellers.</source>
         <extracomment>About window or message; keep the name Ostrevane.</extracomment>
-        <translation>Visitez le site Web d’Ostrevane pour découvrir les actualités et d’autres programmes destinés aux vendeurs.</translation>
+        <translation>Visitez le site Web Ostrevane pour découvrir les actualités et d’autres programmes destinés aux vendeurs.</translation>
     </message>
     <message id="0670">
         <source>Version </source>

@@ -74,6 +74,7 @@ void frmeBayFees::mnuHelpAbout_Click() {
   frmAbout about(this, {.brand = m_surroundings.brand,
                         .desktop = m_surroundings.desktop,
                         .messages = m_surroundings.messages,
+                        .errors = m_surroundings.errors,
                         .programs = m_surroundings.programs,
                         .systemInformation = m_surroundings.systemInformation});
   about.exec();

@@ -4,6 +4,7 @@
 #include <QLocale>
 
 #include "FCheckVersion.h"
+#include "makers_addresses.h"
 #include "number_format.h"
 #include "tagged_strings.h"
 
@@ -58,7 +59,9 @@ std::shared_ptr<CStartStatus> Start::newStartStatus(const Surroundings& surround
                         .web = surroundings.web,
                         .desktop = surroundings.desktop,
                         .messages = surroundings.messages,
+                        .errors = surroundings.errors,
                         .brand = surroundings.brand,
                         .languageName = [&languages] { return languages.CurrentLanguage().Name; },
-                        .appClass = kAppClass});
+                        .appClass = kAppClass,
+                        .updateHost = QString::fromLatin1(Maker::kUpdateHost)});
 }

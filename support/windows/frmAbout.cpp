@@ -32,9 +32,8 @@ frmAbout::frmAbout(QWidget* parent, const AboutSurroundings& surroundings)
 void frmAbout::lblEmail_MouseDown() {
   const QString& homepage = m_surroundings.brand.values().CompanyURL;
   if (m_surroundings.desktop.openWeb(homepage)) return;
-  m_surroundings.messages.showCritical(
-      this, GetTagString(QStringLiteral("Error<0463>")),
-      GetTagString(QStringLiteral("This address could not be opened: <5004>")) + homepage);
+  m_surroundings.errors.show(
+      this, GetTagString(QStringLiteral("This address could not be opened: <5004>")) + homepage);
 }
 
 void frmAbout::cmdSysInfo_Click() {

@@ -4,6 +4,7 @@
 
 #include "custom_brand.h"
 #include "desktop_opener.h"
+#include "error_reporter.h"
 #include "message_box.h"
 #include "program_starter.h"
 #include "system_information.h"
@@ -14,6 +15,7 @@ struct AboutSurroundings {
   const CCustomBrand& brand;
   DesktopOpener& desktop;
   MessageBox& messages;
+  ErrorReporter& errors;
   ProgramStarter& programs;
   SystemInformation& systemInformation;
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyleOptionFocusRect>
@@ -25,6 +26,34 @@ double luminance(const QColor& colour) {
 double contrast(const QColor& one, const QColor& other) {
   const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
   return (lighter + 0.05) / (darker + 0.05);
+}
+
+/// What screen readers are told of a link, which is a text to them otherwise.
+class AccessibleLink : public QAccessibleWidget {
+ public:
+  explicit AccessibleLink(LinkLabel* label) : QAccessibleWidget(label, QAccessible::Link), m_label(*label) {}
+
+  [[nodiscard]] QString text(QAccessible::Text kind) const override {
+    const bool isNamed = kind != QAccessible::Name || !m_label.accessibleName().isEmpty();
+    return isNamed ? QAccessibleWidget::text(kind) : m_label.text();
+  }
+
+  [[nodiscard]] QStringList actionNames() const override {
+    return QStringList{pressAction()} + QAccessibleWidget::actionNames();
+  }
+
+  void doAction(const QString& name) override {
+    if (name != pressAction()) return QAccessibleWidget::doAction(name);
+    m_label.press();
+  }
+
+ private:
+  LinkLabel& m_label;
+};
+
+QAccessibleInterface* accessibleLink(const QString& /*className*/, QObject* object) {
+  auto* label = qobject_cast<LinkLabel*>(object);
+  return label != nullptr ? new AccessibleLink(label) : nullptr;
 }
 
 }  // namespace
@@ -53,10 +82,16 @@ QColor readableOn(const QColor& background, QColor colour) {
 }
 
 LinkLabel::LinkLabel(QWidget* parent) : QLabel(parent) {
+  [[maybe_unused]] static const bool isTold = (QAccessible::installFactory(accessibleLink), true);
   setCursor(Qt::PointingHandCursor);
   setFocusPolicy(Qt::StrongFocus);
   setTextFormat(Qt::PlainText);
   showColour();
+}
+
+void LinkLabel::press() {
+  emit pressed();
+  emit clicked();
 }
 
 void LinkLabel::showColour() {
@@ -97,13 +132,15 @@ void LinkLabel::mouseReleaseEvent(QMouseEvent* event) {
   if (rect().contains(event->position().toPoint())) emit clicked();
 }
 
+// The first click has opened it; by itself the second would count as another press.
+void LinkLabel::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
+
 void LinkLabel::keyPressEvent(QKeyEvent* event) {
   const bool isPressing =
       event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
   if (!isPressing) return QLabel::keyPressEvent(event);
   if (event->isAutoRepeat()) return;
-  emit pressed();
-  emit clicked();
+  press();
 }
 
 void LinkLabel::paintEvent(QPaintEvent* event) {

@@ -3,13 +3,17 @@
 #include <QColor>
 #include <QLabel>
 
-/// A label that opens something: blue, and magenta under the mouse. It can be clicked, or pressed with Enter
-/// or Space when it has the focus. What it opens is left to who listens.
+/// A label that opens something: blue, and magenta under the mouse. It can be clicked, twice counting as
+/// once, or pressed with Enter or Space when it has the focus. Screen readers are told of a link that can be
+/// pressed. What it opens is left to who listens.
 class LinkLabel : public QLabel {
   Q_OBJECT
 
  public:
   explicit LinkLabel(QWidget* parent = nullptr);
+
+  /// As the keys do.
+  void press();
 
  signals:
   void pressed();
@@ -21,6 +25,7 @@ class LinkLabel : public QLabel {
   void changeEvent(QEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 

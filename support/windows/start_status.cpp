@@ -5,7 +5,6 @@
 
 #include "front_window.h"
 #include "FUpdateVersion.h"
-#include "makers_addresses.h"
 #include "number_format.h"
 #include "program_version.h"
 #include "tagged_strings.h"
@@ -27,7 +26,7 @@ void CStartStatus::keepUpdateCheck(bool isAllowed) {
 
 void CStartStatus::CheckForUpdate() {
   if (std::exchange(m_isAsking, true)) return;
-  const QUrl address = addressOf({.host = QString::fromLatin1(Maker::kUpdateHost),
+  const QUrl address = addressOf({.host = m_surroundings.updateHost,
                                   .app = QCoreApplication::applicationName(),
                                   .version = QString::fromLatin1(kProgramVersion),
                                   .appClass = m_surroundings.appClass,
@@ -63,6 +62,10 @@ void CStartStatus::offerUpdate(const QString& title) {
       GetTagString(QStringLiteral("A setup file will now be retrieved from the internet.<0662>")) + u'\n' +
           GetTagString(QStringLiteral("Please choose 'Open' when you are prompted.<0663>")));
   m_isUpdateStarted = m_surroundings.desktop.openWeb(m_update.updateAddress);
+  if (m_isUpdateStarted) return;
+  m_surroundings.errors.show(
+      m_window,
+      GetTagString(QStringLiteral("This address could not be opened: <5004>")) + m_update.updateAddress);
 }
 
 QString CStartStatus::ConvNumFormat(const QString& text) {

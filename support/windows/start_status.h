@@ -9,6 +9,7 @@
 
 #include "custom_brand.h"
 #include "desktop_opener.h"
+#include "error_reporter.h"
 #include "message_box.h"
 #include "settings_store.h"
 #include "update_answer.h"
@@ -20,9 +21,11 @@ struct StartSurroundings {
   WebRequest& web;
   DesktopOpener& desktop;
   MessageBox& messages;
+  ErrorReporter& errors;
   const CCustomBrand& brand;
   std::function<QString()> languageName;  ///< of the language that the program speaks, "German"
   int appClass = 0;                       ///< which kind of program asks for updates
+  QString updateHost;                     ///< the version-check server, with its scheme
 };
 
 /// What the start of this process found out: whether it is the first one after installation, and what the
@@ -44,8 +47,9 @@ class CStartStatus : public std::enable_shared_from_this<CStartStatus> {
   /// Keeps what the user answered to that. Throws SettingsError.
   void keepUpdateCheck(bool isAllowed);
 
-  /// Asks the server, and when it answers shows its message or offers the newer version. Failures
-  /// show nothing. While a question is under way another one is ignored.
+  /// Asks the server, and when it answers shows its message or offers the newer version. A server that does
+  /// not answer shows nothing; an address that the user chose and that cannot be opened is reported. While a
+  /// question is under way another one is ignored.
   void CheckForUpdate();
 
   /// The window that answers are shown in front of.

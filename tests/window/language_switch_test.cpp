@@ -37,7 +37,7 @@ const QList<Spoken> kOnEverySite{
      "Objet &unique|&Plusieurs objets|&Services de paiement|&Expédition "},
     {"mnuHelpHomepage", "Ostrevane Homepage", "Ostrevane Homepage", "Ostrevane Homepage"},
     {"mnuHelpSubscribe", "&Join Ostrevane Mailing List", "Ostrevane-&Mailingliste abonnieren",
-     "S’&abonner à la liste de diffusion d’Ostrevane"},
+     "S’&abonner à la liste de diffusion Ostrevane"},
     {"mnuLang_0", "Default", "Sprache: Voreinstellung", "Par défaut"},
     {"mnuLang_1", "English", "Englisch", "Anglais"},
     {"mnuLang_2", "German", "German", "German"},
@@ -279,7 +279,7 @@ class LanguageSwitchTest : public QObject {
       expected[QStringLiteral("Language")] = QString::fromLatin1(language);
       QCOMPARE(calculator.settings.values, expected);
     }
-    QVERIFY(calculator.messages.shown.isEmpty());
+    QVERIFY(calculator.isSilent());
   }
 
   void aSwitchKeepsTheCurrentTab_data() {
@@ -471,7 +471,7 @@ class LanguageSwitchTest : public QObject {
     calculator.load();
     QCOMPARE(checkedLanguages(calculator), checked);
     QCOMPARE(visibleLanguages(calculator).size(), hasLibraries ? 4 : 2);
-    QVERIFY(calculator.messages.shown.isEmpty());
+    QVERIFY(calculator.isSilent());
   }
 
   void everyEntryStoresAndMarksItsOwn_data() {
@@ -542,17 +542,17 @@ class LanguageSwitchTest : public QObject {
     };
     row("a company", "<CompanyName>Harbour Hill</CompanyName>", "Harbour Hill Homepage",
         {"&Join Harbour Hill Mailing List", "Harbour Hill-&Mailingliste abonnieren",
-         "S’&abonner à la liste de diffusion d’Harbour Hill"});
+         "S’&abonner à la liste de diffusion Harbour Hill"});
     row("an ampersand is shown, not taken for a mnemonic", "<CompanyName>A&B</CompanyName>", "A&&B Homepage",
         {"&Join A&&B Mailing List", "A&&B-&Mailingliste abonnieren",
-         "S’&abonner à la liste de diffusion d’A&&B"});
+         "S’&abonner à la liste de diffusion A&&B"});
     row("a name around the maker's", "<CompanyName>Not Ostrevane</CompanyName>", "Not Ostrevane Homepage",
         {"&Join Not Ostrevane Mailing List", "Not Ostrevane-&Mailingliste abonnieren",
-         "S’&abonner à la liste de diffusion d’Not Ostrevane"});
+         "S’&abonner à la liste de diffusion Not Ostrevane"});
     row("no company", "<CompanyURL>x</CompanyURL>", " Homepage",
-        {"&Join  Mailing List", "-&Mailingliste abonnieren", "S’&abonner à la liste de diffusion d’"});
+        {"&Join  Mailing List", "-&Mailingliste abonnieren", "S’&abonner à la liste de diffusion "});
     row("an empty name", "<CompanyName></CompanyName>", " Homepage",
-        {"&Join  Mailing List", "-&Mailingliste abonnieren", "S’&abonner à la liste de diffusion d’"});
+        {"&Join  Mailing List", "-&Mailingliste abonnieren", "S’&abonner à la liste de diffusion "});
   }
 
   void theCompanyOfTheBrandIsNamed() {

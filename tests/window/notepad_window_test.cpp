@@ -262,7 +262,7 @@ class NotepadWindowTest : public QObject {
     m_calculator->click("cmdClearNotepad");
     letItSettle();
     QCOMPARE(notes(), QString());
-    QVERIFY(m_calculator->messages.shown.isEmpty());
+    QVERIFY(m_calculator->isSilent());
   }
 
   void copyingTakesTheWholeText() {
@@ -281,7 +281,7 @@ class NotepadWindowTest : public QObject {
     QGuiApplication::clipboard()->setText(QStringLiteral("before"));
     m_calculator->click("cmdCopyNotepad");
     QCOMPARE(QGuiApplication::clipboard()->text(), QString());
-    QVERIFY(m_calculator->messages.shown.isEmpty());
+    QVERIFY(m_calculator->isSilent());
   }
 
   void aLineBreakWithinAParagraphIsCopiedAsOne() {
@@ -386,7 +386,7 @@ class NotepadWindowTest : public QObject {
     letItSettle();
     QCOMPARE(m_calculator->printer.titles.size(), 1);
     QVERIFY(m_calculator->printer.record.texts.isEmpty());
-    QVERIFY(m_calculator->messages.shown.isEmpty());
+    QVERIFY(m_calculator->isSilent());
     QCOMPARE(notes(), QStringLiteral("ab"));
   }
 
@@ -397,10 +397,8 @@ class NotepadWindowTest : public QObject {
     m_calculator->click("cmdPrintNotepad");
     QVERIFY(QGuiApplication::overrideCursor() == nullptr);
     letItSettle();
-    QCOMPARE(m_calculator->messages.shown.size(), 1);
-    QCOMPARE(m_calculator->messages.shown[0].first, QStringLiteral("Error"));
-    QVERIFY(m_calculator->messages.shown[0].second.endsWith(
-        QStringLiteral("The printer takes no further page.")));
+    QVERIFY(m_calculator->hasOneError());
+    QVERIFY(m_calculator->errors.shown[0].endsWith(QStringLiteral("The printer takes no further page.")));
     QVERIFY(!m_calculator->printer.record.isEnded);
     QCOMPARE(notes(), text);
     m_calculator->printer.lastPage = 9;
@@ -446,8 +444,8 @@ class NotepadWindowTest : public QObject {
     window->findChild<QAction*>("mnuFilePrint")->trigger();
     QVERIFY(QGuiApplication::overrideCursor() == nullptr);
     letItSettle();
-    QCOMPARE(m_calculator->messages.shown.size(), 1);
-    QVERIFY(m_calculator->messages.shown[0].second.endsWith(QStringLiteral("The printer has gone.")));
+    QVERIFY(m_calculator->hasOneError());
+    QVERIFY(m_calculator->errors.shown[0].endsWith(QStringLiteral("The printer has gone.")));
     QCOMPARE(window->findChild<QPlainTextEdit*>("txtNotes")->toPlainText(), QStringLiteral("ab"));
     QVERIFY(!watched.record.isEnded);
   }
@@ -471,7 +469,7 @@ class NotepadWindowTest : public QObject {
       add(button);
     letItSettle();
     QCOMPARE(notes(), QString());
-    QVERIFY(m_calculator->messages.shown.isEmpty());
+    QVERIFY(m_calculator->isSilent());
   }
 
   void aHiddenNotepadTakesEntriesAndStaysHidden() {
@@ -487,11 +485,11 @@ class NotepadWindowTest : public QObject {
   void aPriceThatIsTooLargeIsToldAndCountsNothing() {
     fill(kSingleBoxes);
     m_calculator->set("txtPrice", QString(30, u'9'));
-    m_calculator->messages.shown.clear();
+    m_calculator->errors.shown.clear();
     add("cmdAddRegularToNotes");
     letItSettle();
     QCOMPARE(notes(), QString());
-    QCOMPARE(m_calculator->messages.shown.size(), 1);
+    QVERIFY(m_calculator->hasOneError());
     fill(kPaymentBoxes);
     add("cmdAddPaymentsToNotes");
     QCOMPARE(notes(), kPayment);

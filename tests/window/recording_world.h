@@ -40,16 +40,14 @@ struct RecordingMessages : MessageBox {
   }
 };
 
-/// Adds to what the messages have shown: what the user is told is told, by whatever window.
 struct RecordingErrors : ErrorReporter {
-  explicit RecordingErrors(RecordingMessages& messages) : m_messages(messages) {}
+  QStringList shown;
+  QStringList titles;  ///< "Error" in the language that the program spoke, each time
 
-  void show(QWidget* parent, const QString& errorText) override {
-    m_messages.showCritical(parent, Localization::GetTagString(QStringLiteral("Error<0603>")), errorText);
+  void show(QWidget* /*parent*/, const QString& errorText) override {
+    shown << errorText;
+    titles << Localization::GetTagString(QStringLiteral("Error<0603>"));
   }
-
- private:
-  RecordingMessages& m_messages;
 };
 
 struct RecordingDesktop : DesktopOpener {
@@ -166,9 +164,14 @@ struct RecordingWorld {
             .programFolder = programFolder};
   }
 
+  /// Whether the user was told nothing, neither by a message nor by the error window.
+  [[nodiscard]] bool isSilent() const { return messages.shown.isEmpty() && errors.shown.isEmpty(); }
+  /// Whether the error window, and nothing else, has told one error.
+  [[nodiscard]] bool hasOneError() const { return messages.shown.isEmpty() && errors.shown.size() == 1; }
+
   MemorySettings settings;
   RecordingMessages messages;
-  RecordingErrors errors{messages};
+  RecordingErrors errors;
   RecordingDesktop desktop;
   RecordingWeb web;
   RecordingStarter starter;

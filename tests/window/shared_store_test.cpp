@@ -39,7 +39,7 @@ class Seller {
   /// Whether nothing was complained about.
   [[nodiscard]] bool isContent() {
     letItSettle();
-    return m_world.messages.shown.isEmpty();
+    return m_world.isSilent();
   }
 
  private:

@@ -40,6 +40,7 @@ std::unique_ptr<QWidget> aboutWindow(RecordingWorld& world) {
   return std::make_unique<frmAbout>(nullptr, AboutSurroundings{.brand = world.brand,
                                                                .desktop = world.desktop,
                                                                .messages = world.messages,
+                                                               .errors = world.errors,
                                                                .programs = world.starter,
                                                                .systemInformation = world.systemInformation});
 }

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <CLI/CLI.hpp>
 #include <memory>
 #include <ostream>
 
@@ -42,33 +43,42 @@ Table tableOf(const std::vector<DeadBand>& bands, const PriceFunction& sale) {
   return table;
 }
 
+/// Up to where the bands begin. A price below the lowest has none below it that could bring more.
+Cents endOf(const BandsOptions& options, const PriceFunction& sale, const Session& session) {
+  const PriceRange range = sale.range();
+  if (options.to.empty()) return range.last;
+  const Cents to = priceOf("--to", options.to, sale, session);
+  if (to < range.first)
+    throw OptionError("--to: below " + priced(sale, range.first) + ", the lowest price at which it can sell");
+  return to;
+}
+
 void run(const BandsOptions& options, Session& session) {
   PriceFunction sale(options.sale.sale(session), session.locale());
-  const Cents to = options.to.empty() ? sale.range().last
-                                      : std::min(amountOf("to", options.to, session), sale.range().last);
+  checkSells(sale);
+  const Cents to = endOf(options, sale, session);
   const auto bands = deadBands(sale, to);
   Table table = tableOf(bands, sale);
   if (session.format != Format::Text) return session.write(table);
-  const std::string upTo = priced(sale, std::max<Cents>(to, 0));
+  const std::string stretch = fmt::format("From {} to {}", priced(sale, sale.range().first),
+                                          options.to.empty() ? largestOf(sale) + "," : priced(sale, to));
   if (bands.empty()) {
-    session.out << fmt::format("Up to {} a higher price never leaves you with less.\n", upTo);
+    session.out << stretch << " a higher price never leaves you with less.\n";
     return;
   }
-  table.title = fmt::format("Prices up to {} that leave you with less than a lower price", upTo);
+  table.title = stretch + " these prices leave you with less than a lower price";
   session.write(table);
 }
 
 }  // namespace
 
 void addBandsCommand(CLI::App& program, Session& session) {
-  CLI::App* command = program.add_subcommand("bands",
-                                             "The prices of a single item that leave you with less than a "
-                                             "lower price. A loss of a single cent, which "
-                                             "comes from the rounding of two fees, is not counted");
+  CLI::App* command = program.add_subcommand(
+      "bands", "The prices of a single item that leave you with less than a lower price");
+  command->footer("A loss of a single cent, which comes from the rounding of two fees, is not counted.");
   const auto options = std::make_shared<BandsOptions>();
   addAmountOption(*command, "--to", options->to,
-                  "the bands that begin up to this price (" +
-                      textOf(PriceFunction::largestPrice, session.locale()) + ")");
+                  "the bands that begin up to this price (the largest that can be)");
   options->sale.addTo(*command);
   addOutputOptions(*command, session);
   command->callback([options, &session] { run(*options, session); });

@@ -43,6 +43,16 @@ bool share(std::span<const Setter> setters, const std::vector<std::string>& name
   return isAny;
 }
 
+template <typename Setter>
+void markNumbers(const std::array<std::vector<SetColumn<Setter>>, 4>& columns,
+                 std::vector<std::optional<OptionKind>>& numbers) {
+  for (const auto& ofKind : columns) {
+    for (const auto& [at, setter] : ofKind) {
+      if (setter->kind == OptionKind::Amount || setter->kind == OptionKind::Rate) numbers[at] = setter->kind;
+    }
+  }
+}
+
 }  // namespace
 
 std::string_view withoutBlanks(std::string_view text) {
@@ -59,11 +69,25 @@ BatchColumns batchColumns(const CsvRow& header, bool isFromWindow) {
   for (const std::string_view cell : header.cells)
     names.push_back(isFromWindow ? std::string(withoutBlanks(cell)) : optionName(cell));
   columns.kind = columnNamed(names, "kind");
+  columns.numbers.resize(columns.count);
   const bool isAny = isFromWindow ? share(windowControls(), names, columns.controls)
                                   : share(options(), names, columns.options);
   if (!isAny && !columns.kind)
     throw OptionError(isFromWindow
                           ? "the first line names neither kind nor site nor a control of the window"
                           : "the first line names no column that is known, such as kind, site or opening");
+  markNumbers(columns.options, columns.numbers);
+  markNumbers(columns.controls, columns.numbers);
   return columns;
+}
+
+NamesTaken namesTaken(const CsvRow& header, const CsvRow& answer) {
+  NamesTaken taken;
+  for (const std::string_view name : answer.cells) {
+    const auto isSame = [name](std::string_view cell) { return withoutBlanks(cell) == name; };
+    if (name.empty() || std::none_of(header.cells.begin(), header.cells.end(), isSame)) continue;
+    if (taken.count++ > 0) taken.list += ", ";
+    taken.list.append(1, '"').append(name).append(1, '"');
+  }
+  return taken;
 }

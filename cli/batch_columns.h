@@ -23,8 +23,9 @@ struct BatchColumns {
   std::optional<std::size_t> kind;
   std::array<std::vector<SetColumn<Option>>, 4> options;  ///< of each kind, in the order of the table
   std::array<std::vector<SetColumn<WindowControl>>, 4> controls;
+  std::vector<std::optional<OptionKind>> numbers;  ///< of each column whether it holds amounts or rates
 
-  /// The cell of a column, without blanks around it; "" if the row ends before it.
+  /// The cell of a column; "" if the row ends before it.
   [[nodiscard]] static std::string_view cellOf(const CsvRow& row, std::size_t column) {
     return column < row.cells.size() ? row.cells[column] : std::string_view{};
   }
@@ -33,5 +34,12 @@ struct BatchColumns {
 /// What the names of the columns say. Throws OptionError if none of them is known, or if two columns would
 /// set the same.
 [[nodiscard]] BatchColumns batchColumns(const CsvRow& header, bool isFromWindow);
+
+/// The columns of the answer whose names the table has already, each in quotation marks; "" if there is none.
+struct NamesTaken {
+  std::string list;
+  std::size_t count = 0;
+};
+[[nodiscard]] NamesTaken namesTaken(const CsvRow& header, const CsvRow& answer);
 
 [[nodiscard]] std::string_view withoutBlanks(std::string_view text);

@@ -1,6 +1,9 @@
 #include "batch_command.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
+#include <CLI/CLI.hpp>
 #include <memory>
 #include <system_error>
 #include <thread>
@@ -17,23 +20,25 @@ struct BatchOptions {
   bool isForSpreadsheet = false;
 };
 
-constexpr const char* kHelp =
-    "The fees of many listings and payments, one in each row of a CSV file. Its first line names the "
-    "columns: "
-    "kind (single, multiple, payment, billpoint) and the options of those commands, such as site, opening or "
-    "two_categories; cells of columns that a kind does not have are ignored, and all cells are written as "
-    "they "
-    "are, followed by the fees, the net, the currency, and what is wrong with the row.";
+constexpr const char* kColumns =
+    "The first line names the columns: kind (single, multiple, payment, billpoint) and the options "
+    "of those commands, such as site, opening or two_categories. Without a column kind, and where its "
+    "cell is empty, a row is a single item; without site, or where it is empty, the item is sold on "
+    "eBay.com. Cells of columns that a kind does not have are ignored, and all cells are written as they "
+    "are, followed by the fees, the net, the currency, and what is wrong with the row. A row of more "
+    "than 16 MB is left out: in its place stands a row of empty cells that says so.";
 
-/// One thread more than there are processors: one of them may be waiting to read or to write.
+/// Two for each processor: while one waits for its turn to write, another works.
 unsigned threadCount() {
   constexpr unsigned most = 8;
-  return std::min(std::thread::hardware_concurrency(), most) + 1;
+  return 2 * std::clamp(std::thread::hardware_concurrency(), 1U, most);
 }
 
 std::unique_ptr<InputFile> opened(const std::string& name) {
   try {
-    return std::make_unique<InputFile>(name);
+    auto file = std::make_unique<InputFile>(name);
+    if (file->isOutput()) throw OptionError(name + ": the answer would be written into this very file");
+    return file;
   } catch (const std::system_error& error) {
     throw OptionError(name + ": " + error.code().message());
   }
@@ -43,14 +48,20 @@ void answer(const BatchRun& run, InputFile& input, const std::string& name, Sess
   BatchReport report(
       {.name = name, .size = input.size(), .showsProgress = isErrorTerminal() && !isOutputTerminal()},
       session.errors);
+  std::string whyUnwritten;
   try {
     run.answer(report);
     finishOutput();
   } catch (const OptionError& error) {
     throw OptionError(name + ": " + error.what());
+  } catch (const TableError& error) {
+    throw OptionError(fmt::format("{}:{}: {}", name, error.line() + 1, error.what()));
+  } catch (const OutputError& error) {
+    whyUnwritten = error.what();
   }
   report.finish();
-  if (report.hasErrors()) session.status = SomeFailed;
+  if (!whyUnwritten.empty()) session.errors << "tessaloom-fees: " << whyUnwritten << '\n';
+  if (report.hasErrors() || !whyUnwritten.empty()) session.status = SomeFailed;
 }
 
 void batch(const BatchOptions& options, Session& session) {
@@ -74,37 +85,30 @@ void batch(const BatchOptions& options, Session& session) {
                          },
                      .write = writeToOutput,
                      .threads = threadCount()};
-  try {
-    answer(run, *input, options.file, session);
-  } catch (const std::system_error& error) {
-    session.errors << "tessaloom-fees: cannot write: " << error.code().message() << '\n';
-    session.status = SomeFailed;
-  }
+  answer(run, *input, options.file, session);
 }
 
 }  // namespace
 
 void addBatchCommand(CLI::App& program, Session& session) {
-  CLI::App* command = program.add_subcommand("batch", kHelp);
+  CLI::App* command = program.add_subcommand(
+      "batch", "The fees of many listings and payments, one in each row of a CSV file");
+  command->footer(kColumns);
   const auto options = std::make_shared<BatchOptions>();
-  command->add_option("file", options->file, "a CSV file, or - for the standard input")
+  command->add_option("FILE", options->file, "a CSV file, or - for the standard input")
       ->required()
-      ->type_name("FILE");
-  command
-      ->add_option(
-          "--decimal", session.decimal,
-          "the decimal sign of the numbers, read and written: . or , (.). Without it a cell that could "
-          "mean two numbers, such as 1.234, is an error")
-      ->check(CLI::IsMember({".", ","}).description(""))
-      ->type_name("SIGN");
+      ->type_name("");
+  addDecimalOption(*command, session);
   command->add_flag(
       "--excel", options->isForSpreadsheet,
       "write what a German or French spreadsheet opens by a double click: with a byte order mark, "
-      "semicolons and decimal commas. A cell that it would run as a formula gets an apostrophe in "
+      "semicolons and decimal commas, also in the columns of amounts and rates, whose numbers lose their "
+      "thousands separators and currency signs. A cell that it would run as a formula gets an apostrophe in "
       "front; without this option such cells stay as they are");
   command->add_flag(
       "--from-window", options->isFromWindow,
       "the columns are kind, site (1 to 4) and the controls of the window by their names, the cells "
-      "what stands in them; written is every box as the window would show it");
+      "what stands in them; written is every box as the window would show it. Their numbers are read as the "
+      "window reads them: with a decimal point unless --decimal says otherwise, and 9,99 is then 999");
   command->callback([options, &session] { batch(*options, session); });
 }

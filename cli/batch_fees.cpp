@@ -2,22 +2,17 @@
 #include "batch_rows.h"
 #include "option_values.h"
 #include "pricing.h"
+#include "quoted_text.h"
 #include "table.h"
 
 namespace {
-
-constexpr std::array<std::string_view, 7> kNames{
-    "insertion_fee", "reserve_fee", "extra_features", "final_value_fee", "total_fees", "payment_fee", "net"};
-constexpr std::array<std::string Fees::*, 7> kFees{&Fees::insertion,  &Fees::reserve, &Fees::extras,
-                                                   &Fees::finalValue, &Fees::total,   &Fees::payment,
-                                                   &Fees::net};
 
 class FeeAnswers : public RowAnswers {
  public:
   explicit FeeAnswers(const BatchPlan& plan) : m_plan(plan), m_pricer(plan.choices.locale) {}
 
   void appendHeader(std::string& out) const override {
-    for (const std::string_view name : kNames) (out += m_plan.outputSeparator) += name;
+    for (const FeeColumn& column : kFeeColumns) (out += m_plan.outputSeparator) += column.key;
     ((out += m_plan.outputSeparator) += "currency") += m_plan.outputSeparator;
     out += "error";
   }
@@ -38,7 +33,7 @@ class FeeAnswers : public RowAnswers {
       reason = error.what();
     }
     reason = oneLine(reason);
-    out.append(kNames.size() + 2, m_plan.outputSeparator);
+    out.append(kFeeColumns.size() + 2, m_plan.outputSeparator);
     appendCsvCell(out, reason, m_plan.outputSeparator);
     return reason;
   }
@@ -53,28 +48,30 @@ class FeeAnswers : public RowAnswers {
       const bool isLeft = cell.empty() || (option->kind == OptionKind::Flag && cell == "0");
       if (!isLeft) set(*option, cell);
     }
-    checkOffered(m_listing);
+    checkOffered(m_listing, asColumn);
+    checkEntries(m_listing, m_plan.choices.locale);
+    checkComplete(m_listing, asColumn);
   }
 
   void set(const Option& option, std::string_view cell) {
-    if (option.kind != OptionKind::Flag && option.kind != OptionKind::Choice) {
-      checkValue(option, cell, m_plan.choices.locale, m_plan.choices.hasDecimal);
-      return option.set(m_listing, cell);
-    }
+    const BatchChoices& choices = m_plan.choices;
+    if (option.kind != OptionKind::Flag && option.kind != OptionKind::Choice)
+      return option.set(m_listing, readValue(option, cell, choices.locale, choices.hasDecimal));
     cell = withoutBlanks(cell);
     if (cell.empty()) return;
     try {
       option.set(m_listing, cell);
     } catch (const OptionError& error) {
-      throw OptionError(std::string(option.name) + ": " + error.what());
+      throw OptionError(asColumn(option.name) + ": " + error.what());
     }
   }
 
   void appendFees(std::string& out) {
     const Fees fees = m_pricer.price(m_listing);
-    for (const auto fee : kFees) {
+    for (const FeeColumn& column : kFeeColumns) {
+      const std::string& fee = fees.*column.fee;
       out += m_plan.outputSeparator;
-      if (!(fees.*fee).empty()) appendNumber(out, fees.*fee, m_plan);
+      if (!fee.empty()) appendNumber(out, fee, m_plan);
     }
     (out += m_plan.outputSeparator) += Pricer::currencyOf(m_listing);
     out += m_plan.outputSeparator;

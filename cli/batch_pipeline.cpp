@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <mutex>
 #include <optional>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -72,7 +73,7 @@ class OrderedRun {
   void stop() {
     {
       const std::lock_guard lock(m_outputMutex);
-      m_failure = std::current_exception();
+      if (!m_failure) m_failure = std::current_exception();
       m_isStopped = true;
     }
     m_turnChanged.notify_all();
@@ -98,7 +99,11 @@ void runInOrder(const BatchWork& work, unsigned threads) {
   OrderedRun run(work);
   {
     std::vector<std::jthread> others;
-    for (unsigned at = 1; at < threads; ++at) others.emplace_back([&run] { run.takePart(); });
+    try {
+      for (unsigned at = 1; at < threads; ++at) others.emplace_back([&run] { run.takePart(); });
+    } catch (const std::system_error&) {
+      // The system has no more threads for us: it takes longer with those that there are.
+    }
     run.takePart();
   }
   run.rethrowFailure();

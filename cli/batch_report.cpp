@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr std::size_t kErrorsTold = 20;
 // Also how often it is shown anew.
 constexpr std::chrono::seconds kUntilShown{1};
 
@@ -38,9 +37,9 @@ void BatchReport::skip(std::size_t lines, std::size_t bytes) {
 }
 
 void BatchReport::add(const ChunkAnswer& answer) {
-  for (const RowError& error : answer.errors) {
-    if (++m_errorCount <= kErrorsTold) tell(m_lines + error.line + 1, error.reason);
-  }
+  for (std::size_t at = 0; at < answer.errors.size() && m_errorCount + at < kErrorsTold; ++at)
+    tell(m_lines + answer.errors[at].line + 1, answer.errors[at].reason);
+  m_errorCount += answer.errorCount;
   skip(answer.lines, answer.bytes);
   if (m_settings.showsProgress) showProgress();
 }

@@ -23,6 +23,8 @@ class BatchReport {
   /// The first lines of the input, which belong to no chunk.
   void skip(std::size_t lines, std::size_t bytes);
   void add(const ChunkAnswer& answer);
+  /// What the user should know of a line, counted from 0, though it is no error.
+  void note(std::size_t line, const std::string& text) { tell(line + 1, text); }
   /// What ended the run early, in the line behind all that was answered.
   void fail(const std::string& reason);
   void finish();

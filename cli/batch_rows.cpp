@@ -4,7 +4,11 @@
 #include <array>
 #include <charconv>
 
+#include "amount_errors.h"
+#include "amount_text.h"
+#include "number_shape.h"
 #include "option_values.h"
+#include "quoted_text.h"
 #include "table.h"
 
 namespace {
@@ -23,28 +27,26 @@ bool isPlainNumber(std::string_view text) {
   return digits > 0 && signs <= 1;
 }
 
+/// How a cell begins that a spreadsheet runs; the wide signs are those of East Asian keyboards.
+constexpr std::array<std::string_view, 11> kFormulaStarts{"=",  "+",      "-",      "@",      "\t",    "\r",
+                                                          "\n", "\uFF1D", "\uFF0B", "\uFF0D", "\uFF20"};
+
 bool isFormula(std::string_view cell) {
-  constexpr std::string_view starts = "=+-@\t\r";
-  return !cell.empty() && starts.find(cell.front()) != std::string_view::npos && !isPlainNumber(cell);
+  return !isPlainNumber(cell) &&
+         std::any_of(kFormulaStarts.begin(), kFormulaStarts.end(),
+                     [cell](std::string_view start) { return cell.starts_with(start); });
 }
 
-/// How many bytes the character at the beginning of a text takes; 0 if it is none.
-std::size_t characterLength(std::string_view text) {
-  const auto byteAt = [&](std::size_t at) { return static_cast<unsigned char>(text[at]); };
-  const unsigned first = byteAt(0);
-  const std::size_t length = first < 0x80 ? 1 : first < 0xC2 ? 0 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
-  if (first > 0xF4 || length > text.size()) return 0;
-  for (std::size_t at = 1; at < length; ++at) {
-    if ((byteAt(at) & 0xC0U) != 0x80U) return 0;
+/// The value of a number; nothing for what is none, and for one of more digits than a spreadsheet keeps.
+std::optional<std::string> plainNumber(std::string_view text, const NumberLocale& locale) {
+  if (!isNumeric(text, locale)) return std::nullopt;
+  try {
+    const std::string number = plainText(toDouble(text, locale), locale);
+    const std::string_view plain = withoutBlanks(number);
+    return isPlainNumber(plain) ? std::optional<std::string>(plain) : std::nullopt;
+  } catch (const OverflowError&) {
+    return std::nullopt;
   }
-  if (length > 2) {
-    // Overlong forms, halves of pairs, and what lies beyond the last character.
-    const unsigned second = byteAt(1);
-    const bool isWrong = (first == 0xE0 && second < 0xA0) || (first == 0xED && second >= 0xA0) ||
-                         (first == 0xF0 && second < 0x90) || (first == 0xF4 && second >= 0x90);
-    if (isWrong) return 0;
-  }
-  return length;
 }
 
 std::string numberText(std::size_t number) {
@@ -55,29 +57,9 @@ std::string numberText(std::size_t number) {
 
 }  // namespace
 
-std::string oneLine(std::string_view reason) {
-  constexpr std::size_t longest = 200;
-  constexpr unsigned char firstPrintable = 0x20;
-  constexpr unsigned char deleteSign = 0x7F;
-  std::string line;
-  while (!reason.empty() && line.size() < longest) {
-    const std::size_t length = characterLength(reason);
-    const auto first = static_cast<unsigned char>(reason.front());
-    if (length == 0) {
-      line += "\uFFFD";
-    } else if (first < firstPrintable || first == deleteSign) {
-      line += ' ';
-    } else {
-      line += reason.substr(0, length);
-    }
-    reason.remove_prefix(std::max<std::size_t>(length, 1));
-  }
-  if (!reason.empty()) line += "...";
-  return line;
-}
-
 std::string shapeError(const CsvRow& row, const BatchPlan& plan) {
-  if (row.isOpen) return "a quotation mark is never closed";
+  if (row.isTooLong) return "the row is longer than 16 MB and was left out";
+  if (row.hasStrayQuote) return "a quotation mark is too many or too few";
   if (row.cells.size() > plan.columns.count)
     return numberText(row.cells.size()) + " cells, but only " + numberText(plan.columns.count) + " columns";
   return {};
@@ -89,7 +71,7 @@ ListingKind kindIn(const CsvRow& row, const BatchColumns& columns) {
   if (name.empty()) return ListingKind::Single;
   const auto kind = kindOf(name);
   if (!kind)
-    throw OptionError("kind: \"" + std::string(name) + "\" is none of single, multiple, payment, billpoint");
+    throw OptionError("kind: " + quotedText(name) + " is none of single, multiple, payment, billpoint");
   return *kind;
 }
 
@@ -116,6 +98,29 @@ void appendNumber(std::string& out, std::string_view number, const BatchPlan& pl
 BatchRows::BatchRows(const BatchPlan& plan)
     : m_plan(plan), m_answers(plan.choices.isFromWindow ? windowAnswers(plan) : feeAnswers(plan)) {}
 
+/// A number in a column of numbers, as it was read: digits with a decimal sign at most. The window's boxes
+/// are read by its own rules.
+std::optional<std::string> BatchRows::numberIn(std::string_view cell, std::size_t at) const {
+  const BatchChoices& choices = m_plan.choices;
+  const auto kind = m_plan.columns.numbers[at];
+  if (!kind) return std::nullopt;
+  std::string number(cell);
+  if (!choices.isFromWindow) {
+    number = withoutGroupBlanks(cell, *kind);
+    if (!hasClearSigns(number, *kind, choices.locale, choices.hasDecimal)) return std::nullopt;
+  }
+  const bool isGrouped = number.find(choices.locale.group) != std::string::npos;
+  return isPlainNumber(number) && !isGrouped ? number : plainNumber(number, choices.locale);
+}
+
+void BatchRows::appendCell(const CsvRow& row, std::size_t at, std::string& out) const {
+  const std::string_view cell = row.cells[at];
+  // A spreadsheet that writes commas takes 9.99 for a date or a text, and 1,234 for a number near one.
+  const auto number = m_plan.choices.isForSpreadsheet ? numberIn(cell, at) : std::nullopt;
+  if (number) return appendNumber(out, *number, m_plan);
+  appendText(out, cell, m_plan);
+}
+
 void BatchRows::appendCells(const CsvRow& row, std::string& out) const {
   const std::size_t count = std::min(row.cells.size(), m_plan.columns.count);
   const bool isAsItStands = !row.hasQuotes && m_plan.separator == m_plan.outputSeparator &&
@@ -125,7 +130,7 @@ void BatchRows::appendCells(const CsvRow& row, std::string& out) const {
   } else {
     for (std::size_t at = 0; at < count; ++at) {
       if (at > 0) out += m_plan.outputSeparator;
-      appendText(out, row.cells[at], m_plan);
+      appendCell(row, at, out);
     }
   }
   out.append(m_plan.columns.count - count, m_plan.outputSeparator);
@@ -138,16 +143,28 @@ void BatchRows::appendHeader(const CsvRow& header, std::string& out) const {
   out += '\n';
 }
 
+/// Cells that no column has a name for, behind all others so that those stay in their columns.
+void BatchRows::appendSurplusCells(const CsvRow& row, std::string& out) const {
+  for (std::size_t at = m_plan.columns.count; at < row.cells.size(); ++at) {
+    out += m_plan.outputSeparator;
+    appendText(out, row.cells[at], m_plan);
+  }
+}
+
 void BatchRows::answer(std::string_view chunk, ChunkAnswer& answer) {
+  constexpr std::size_t mostKept = std::size_t{4} << 20U;  // a long row has its room alone
+  if (answer.output.capacity() > mostKept) std::string().swap(answer.output);
   answer.output.clear();
   answer.errors.clear();
+  answer.errorCount = 0;
   answer.bytes = chunk.size();
   CsvReader reader(chunk, m_plan.separator);
   while (reader.next(m_row)) {
     appendCells(m_row, answer.output);
     std::string reason = m_answers->append(m_row, answer.output);
+    appendSurplusCells(m_row, answer.output);
     answer.output += '\n';
-    if (reason.empty()) continue;
+    if (reason.empty() || ++answer.errorCount > kErrorsTold) continue;
     answer.errors.push_back({m_row.line, std::move(reason)});
   }
   answer.lines = reader.lines();

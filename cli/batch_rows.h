@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,10 +53,14 @@ struct RowError {
   std::string reason;
 };
 
+/// So many errors of rows are told; of the others only how many there are.
+constexpr std::size_t kErrorsTold = 20;
+
 /// What became of a chunk of rows.
 struct ChunkAnswer {
   std::string output;
-  std::vector<RowError> errors;
+  std::vector<RowError> errors;  ///< the first of them, as many as can be told
+  std::size_t errorCount = 0;
   std::size_t lines = 0;  ///< of the chunk
   std::size_t bytes = 0;
 };
@@ -70,6 +75,9 @@ class BatchRows {
 
  private:
   void appendCells(const CsvRow& row, std::string& out) const;
+  void appendSurplusCells(const CsvRow& row, std::string& out) const;
+  void appendCell(const CsvRow& row, std::size_t at, std::string& out) const;
+  [[nodiscard]] std::optional<std::string> numberIn(std::string_view cell, std::size_t at) const;
 
   const BatchPlan& m_plan;
   std::unique_ptr<RowAnswers> m_answers;
@@ -78,10 +86,6 @@ class BatchRows {
 
 /// What is wrong with the shape of a row; "" if nothing is.
 [[nodiscard]] std::string shapeError(const CsvRow& row, const BatchPlan& plan);
-
-/// The reason of an error as it fits into one line: valid UTF-8 without signs that move the cursor, not too
-/// long.
-[[nodiscard]] std::string oneLine(std::string_view reason);
 
 /// What the row is about: "single" unless it says otherwise. Throws OptionError.
 [[nodiscard]] ListingKind kindIn(const CsvRow& row, const BatchColumns& columns);

@@ -7,9 +7,9 @@
 #include "batch_rows.h"
 #include "csv_source.h"
 
-/// Answers a whole table. Throws OptionError if its first line names no columns, what `read` throws before
-/// there is such a line, and what `write` throws. What `read` throws later is told by the report, like a row
-/// that is too long, once all rows before it are written.
+/// Answers a whole table. Throws TableError if its first line names no columns, what `read` throws before
+/// there is such a line, and what `write` throws. What `read` throws later is told by the report once all
+/// rows before it are written.
 struct BatchRun {
   BatchChoices choices;
   CsvSource::Read read;

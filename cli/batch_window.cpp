@@ -1,7 +1,9 @@
 #include "amount_errors.h"
+#include "amount_text.h"
 #include "batch_rows.h"
 #include "option_values.h"
 #include "pricing.h"
+#include "quoted_text.h"
 #include "table.h"
 
 namespace {
@@ -53,8 +55,6 @@ constexpr auto kShown = std::to_array<Shown>({
     {"BillpointFee",              ListingKind::Billpoint, billpoint},
 });
 // clang-format on
-
-const std::string kNumberSigns = " -+0123456789E";
 
 class WindowAnswers : public RowAnswers {
  public:
@@ -118,9 +118,9 @@ class WindowAnswers : public RowAnswers {
 
   /// A number gets the decimal sign of the output; a text with group signs stays as it was typed.
   void appendBox(std::string& out, const std::string& text) const {
-    const char decimal = m_plan.choices.locale.decimal.front();
-    const bool isNumber = text.find_first_not_of(kNumberSigns + decimal) == std::string::npos;
-    if (isNumber && m_plan.outputDecimal != decimal) {
+    const NumberLocale& locale = m_plan.choices.locale;
+    const bool isGrouped = text.find(locale.group) != std::string::npos;
+    if (m_plan.outputDecimal != locale.decimal.front() && !isGrouped && isNumeric(text, locale)) {
       appendNumber(out, text, m_plan);
     } else {
       appendText(out, text, m_plan);

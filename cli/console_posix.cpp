@@ -1,4 +1,5 @@
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -12,10 +13,31 @@ namespace {
 
 [[noreturn]] void fail() { throw std::system_error(errno, std::generic_category()); }
 
+[[noreturn]] void failToWrite() {
+  throw OutputError("cannot write: " + std::generic_category().message(errno));
+}
+
+/// What another process has opened may refuse to wait; then this one waits itself. False if it was something
+/// else that kept the call from its work.
+bool waitFor(int descriptor, short what) {
+  if (errno == EINTR) return true;
+  if (errno != EAGAIN) return false;
+  pollfd waiting{.fd = descriptor, .events = what, .revents = 0};
+  return ::poll(&waiting, 1, -1) >= 0 || errno == EINTR;
+}
+
+/// Not in the place of a standard output that is closed: the answer would be meant for this file.
+int openFile(const std::string& name) {
+  const int descriptor = ::open(name.c_str(), O_RDONLY | O_CLOEXEC);
+  if (descriptor < 0 || descriptor > STDERR_FILENO) return descriptor;
+  const int moved = ::fcntl(descriptor, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+  ::close(descriptor);
+  return moved;
+}
+
 }  // namespace
 
-InputFile::InputFile(const std::string& name)
-    : m_descriptor(name == "-" ? STDIN_FILENO : ::open(name.c_str(), O_RDONLY | O_CLOEXEC)) {
+InputFile::InputFile(const std::string& name) : m_descriptor(name == "-" ? STDIN_FILENO : openFile(name)) {
   if (m_descriptor < 0) fail();
 }
 
@@ -27,8 +49,15 @@ std::size_t InputFile::read(std::span<char> bytes) {
   while (true) {
     const ssize_t count = ::read(m_descriptor, bytes.data(), bytes.size());
     if (count >= 0) return static_cast<std::size_t>(count);
-    if (errno != EINTR) fail();
+    if (!waitFor(m_descriptor, POLLIN)) fail();
   }
+}
+
+bool InputFile::isOutput() const {
+  struct stat input {};
+  struct stat output {};
+  return ::fstat(m_descriptor, &input) == 0 && ::fstat(STDOUT_FILENO, &output) == 0 &&
+         S_ISREG(input.st_mode) && input.st_dev == output.st_dev && input.st_ino == output.st_ino;
 }
 
 std::uint64_t InputFile::size() const {
@@ -40,7 +69,7 @@ std::uint64_t InputFile::size() const {
 void writeToOutput(std::string_view bytes) {
   while (!bytes.empty()) {
     const ssize_t count = ::write(STDOUT_FILENO, bytes.data(), bytes.size());
-    if (count < 0 && errno != EINTR) fail();
+    if (count < 0 && !waitFor(STDOUT_FILENO, POLLOUT)) failToWrite();
     if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
   }
 }
@@ -48,7 +77,7 @@ void writeToOutput(std::string_view bytes) {
 void finishOutput() {
   // Some file systems tell only when a file is closed that they had no room for it.
   const int copy = ::dup(STDOUT_FILENO);
-  if (copy >= 0 && ::close(copy) != 0) fail();
+  if (copy >= 0 && ::close(copy) != 0) failToWrite();
 }
 
 void endWithReaderOfOutput() {

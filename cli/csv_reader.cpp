@@ -2,23 +2,80 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cstring>
 
 namespace {
 
 constexpr char kQuote = '"';
+/// So many bytes are looked through at once: one for each bit of a word.
+constexpr std::size_t kBlock = 64;
 
-bool isLineSign(char c) { return c == '\n' || c == '\r'; }
+constexpr std::uint64_t kEachByte = 0x0101010101010101U;
+constexpr std::uint64_t kHighestBits = 0x80U * kEachByte;
+
+/// Eight bytes with the highest bit set in those that are 0, and no other bit.
+std::uint64_t zeroBytes(std::uint64_t bytes) {
+  return ~(((bytes & ~kHighestBits) + ~kHighestBits) | bytes) & kHighestBits;
+}
+
+/// The highest bits of eight bytes side by side, that of the first byte lowest.
+std::uint64_t gathered(std::uint64_t highestBits) {
+  // The product brings each of them to its place in the highest byte, and no two to one place.
+  constexpr std::uint64_t places =
+      std::endian::native == std::endian::little ? 0x0102040810204080U : 0x8040201008040201U;
+  return (highestBits >> 7U) * places >> 56U;
+}
+
+/// Which of a block's bytes are not simply part of a cell. Cells are short: who goes from one sign to the
+/// next byte by byte guesses wrong at nearly each of them.
+std::uint64_t signsIn(const char* block, char separator) {
+  const auto each = [](char c) { return kEachByte * static_cast<unsigned char>(c); };
+  const std::uint64_t separators = each(separator);
+  std::uint64_t signs = 0;
+  for (std::size_t at = 0; at < kBlock; at += sizeof(std::uint64_t)) {
+    std::uint64_t bytes = 0;
+    std::memcpy(&bytes, block + at, sizeof(bytes));
+    signs |= gathered(zeroBytes(bytes ^ separators) | zeroBytes(bytes ^ each(kQuote)) |
+                      zeroBytes(bytes ^ each('\n')) | zeroBytes(bytes ^ each('\r')))
+             << at;
+  }
+  return signs;
+}
 
 }  // namespace
 
-CsvReader::CsvReader(std::string_view text, char separator) : m_text(text), m_separator(separator) {
-  for (const char sign : {separator, kQuote, '\n', '\r'}) m_isSign[static_cast<unsigned char>(sign)] = true;
+bool isLineSign(char c) { return c == '\n' || c == '\r'; }
+
+ClosingQuote::State ClosingQuote::search(std::string_view text, char separator, std::size_t end,
+                                         bool isWhole) {
+  const std::string_view searched = text.substr(0, end);
+  while (true) {
+    m_at = std::min(searched.find(kQuote, m_at), searched.size());
+    if (m_at >= end) return State::Missing;
+    if (m_at + 1 >= text.size()) {
+      if (!isWhole) return State::Unknown;
+      return m_at < text.size() ? State::Found : State::Missing;
+    }
+    const char next = text[m_at + 1];
+    if (next != kQuote) return next == separator || isLineSign(next) ? State::Found : State::Missing;
+    m_at += 2;
+  }
 }
 
-const char* CsvReader::nextSign(const char* at) const {
-  const char* const end = m_text.data() + m_text.size();
-  while (at != end && !m_isSign[static_cast<unsigned char>(*at)]) ++at;
-  return at;
+CsvReader::CsvReader(std::string_view text, char separator, std::size_t longestRow)
+    : m_text(text), m_separator(separator), m_longestRow(longestRow), m_block(text.size()) {}
+
+void CsvReader::lookThrough(std::size_t block) {
+  m_block = block;
+  const std::string_view rest = m_text.substr(block, kBlock);
+  if (rest.size() == kBlock) {
+    m_signs = signsIn(rest.data(), m_separator);
+    return;
+  }
+  std::array<char, kBlock> padded{};
+  std::copy(rest.begin(), rest.end(), padded.begin());
+  m_signs = signsIn(padded.data(), m_separator);
 }
 
 bool CsvReader::isRowEnd(std::size_t at) const { return at == m_text.size() || isLineSign(m_text[at]); }
@@ -36,11 +93,13 @@ bool CsvReader::next(CsvRow& row) {
   skipLineEnds();
   row.line = m_lines;
   row.cells.clear();
-  row.hasQuotes = row.isOpen = false;
+  row.hasQuotes = row.hasStrayQuote = row.isTooLong = false;
   if (m_at == m_text.size()) return false;
   m_unquoted.clear();
   const std::size_t start = m_at;
+  m_quotesEnd = start + m_longestRow;
   while (true) {
+    readPlainCells(row);
     if (m_at < m_text.size() && m_text[m_at] == kQuote) {
       readQuotedCell(row);
     } else {
@@ -50,39 +109,59 @@ bool CsvReader::next(CsvRow& row) {
     ++m_at;
   }
   row.text = m_text.substr(start, m_at - start);
+  if (row.text.size() > m_longestRow) {
+    row.text = {};
+    row.cells.assign(1, {});
+    row.hasQuotes = row.hasStrayQuote = false;
+    row.isTooLong = true;
+  }
   return true;
+}
+
+/// All cells from here on that a separator ends and that have no mark, which are nearly all cells of a table.
+void CsvReader::readPlainCells(CsvRow& row) {
+  std::size_t start = m_at;
+  if (start < m_block || start - m_block >= kBlock) lookThrough(start);
+  std::uint64_t signs = m_signs >> (start - m_block) << (start - m_block);
+  while (true) {
+    while (signs == 0 && m_text.size() - m_block > kBlock) {
+      lookThrough(m_block + kBlock);
+      signs = m_signs;
+    }
+    const std::size_t sign = m_block + static_cast<std::size_t>(std::countr_zero(signs));
+    if (signs == 0 || m_text[sign] != m_separator) break;
+    row.cells.push_back(m_text.substr(start, sign - start));
+    start = sign + 1;
+    signs &= signs - 1;
+  }
+  m_at = start;
 }
 
 void CsvReader::readCell(CsvRow& row) {
   const std::size_t start = m_at;
-  const char* const end = m_text.data() + m_text.size();
-  const char* at = nextSign(m_text.data() + start);
-  while (at != end && *at == kQuote) {
-    row.hasQuotes = true;
-    at = nextSign(at + 1);
-  }
-  m_at = static_cast<std::size_t>(at - m_text.data());
+  for (; !isCellEnd(m_at); ++m_at) row.hasQuotes = row.hasQuotes || m_text[m_at] == kQuote;
   row.cells.push_back(m_text.substr(start, m_at - start));
 }
 
 void CsvReader::readQuotedCell(CsvRow& row) {
   row.hasQuotes = true;
-  const std::size_t start = m_at + 1;
-  bool isPlain = true;
-  std::size_t mark = m_text.find(kQuote, start);
-  while (mark != std::string_view::npos && !isCellEnd(mark + 1)) {
-    const bool isDoubled = m_text[mark + 1] == kQuote;
-    if (isDoubled) isPlain = false;
-    mark = m_text.find(kQuote, mark + (isDoubled ? 2 : 1));
+  ClosingQuote closing(m_at);
+  if (closing.search(m_text, m_separator, m_quotesEnd, true) != ClosingQuote::State::Found) {
+    // Once in a row: the next such cell need not look for the line's end again.
+    if (!row.hasStrayQuote) m_quotesEnd = std::min(m_quotesEnd, m_text.find_first_of("\r\n", m_at));
+    row.hasStrayQuote = true;
+    return readCell(row);
   }
-  row.isOpen = mark == std::string_view::npos;
-  const std::size_t end = row.isOpen ? m_text.size() : mark;
+  const std::size_t start = m_at + 1;
+  const std::size_t end = closing.at();
   m_lines += lineEndsIn(m_text.substr(start, end - start));
-  row.cells.push_back(isPlain ? m_text.substr(start, end - start) : withoutDoubledQuotes(start, end));
-  m_at = row.isOpen ? end : end + 1;
+  m_at = end + 1;
+  row.cells.push_back(withoutDoubledQuotes(start, end));
 }
 
 std::string_view CsvReader::withoutDoubledQuotes(std::size_t start, std::size_t end) {
+  const std::string_view quoted = m_text.substr(start, end - start);
+  if (quoted.find(kQuote) == std::string_view::npos) return quoted;
   // Growing would leave the cells before it without their text.
   if (m_unquoted.capacity() < m_text.size()) m_unquoted.reserve(m_text.size());
   const std::size_t first = m_unquoted.size();
@@ -104,17 +183,23 @@ std::size_t lineEndsIn(std::string_view text) {
   return count;
 }
 
-std::optional<FirstRow> firstRowOf(std::string_view text, bool isWhole) {
-  constexpr std::string_view separators = ",;\t";
-  std::array<std::size_t, separators.size()> counts{};
+std::optional<FirstRow> firstRowOf(std::string_view text, std::string_view separators, bool isWhole) {
+  std::vector<std::size_t> counts(separators.size());
   bool isQuoted = false;
+  bool mayOpen = true;  // at a cell's start, and behind a closing mark, which is then one of two
   std::size_t at = std::min(text.find_first_not_of("\r\n"), text.size());
   for (; at < text.size() && (isQuoted || !isLineSign(text[at])); ++at) {
-    if (text[at] == kQuote) isQuoted = !isQuoted;
     const std::size_t found = separators.find(text[at]);
     if (!isQuoted && found != std::string_view::npos) ++counts[found];
+    const bool isMark = text[at] == kQuote;
+    const bool wasQuoted = isQuoted;
+    if (isMark && (isQuoted || mayOpen)) isQuoted = !isQuoted;
+    mayOpen = isMark ? wasQuoted : found != std::string_view::npos;
   }
   if (at == text.size() && !isWhole) return std::nullopt;
-  const auto most = std::max_element(counts.begin(), counts.end()) - counts.begin();
-  return FirstRow{separators[static_cast<std::size_t>(most)], std::min(at + 1, text.size())};
+  const auto most = std::max_element(counts.begin(), counts.end());
+  const bool isTie = *most > 0 && std::count(counts.begin(), counts.end(), *most) > 1;
+  return FirstRow{.separator = separators[static_cast<std::size_t>(most - counts.begin())],
+                  .isTie = isTie,
+                  .end = std::min(at + 1, text.size())};
 }

@@ -44,18 +44,24 @@ constexpr const char* kStyle = R"(<style>
 Cents netOf(const SaleResult& result) { return result.net; }
 Cents feesOf(const SaleResult& result) { return result.totalFees(); }
 
-/// The steps of an axis: 1, 2 or 5 times a power of ten, so that at most `most` of them fit.
-Cents tickFor(Cents span, Cents most) {
-  for (Cents power = 1;; power *= 10) {
-    for (const Cents factor : {1, 2, 5}) {
-      if (span <= factor * power * most) return factor * power;
-    }
-  }
-}
+/// The amounts that an axis shows. It begins or ends at zero, unless what is shown lies so close together,
+/// far from zero, that its ups and downs would be flattened.
+struct AxisEnds {
+  Cents low;
+  Cents high;
+};
 
-Cents floorTo(Cents amount, Cents tick) {
-  const Cents rest = amount % tick;
-  return amount - (rest < 0 ? rest + tick : rest);
+AxisEnds axisOf(const Curve& curve, Cents (*amount)(const SaleResult&)) {
+  AxisEnds ends{.low = amount(curve.points.front()), .high = amount(curve.points.front())};
+  for (const SaleResult& point : curve.points) {
+    ends.low = std::min(ends.low, amount(point));
+    ends.high = std::max(ends.high, amount(point));
+  }
+  const Cents span = ends.high - ends.low;
+  const bool isNarrow = span > 0 && 2 * span < std::max(ends.high, -ends.low);
+  if (!isNarrow) ends = {.low = std::min<Cents>(ends.low, 0), .high = std::max<Cents>(ends.high, 0)};
+  if (ends.low == ends.high) ++ends.high;
+  return ends;
 }
 
 class Picture {
@@ -92,14 +98,10 @@ class Picture {
 
   [[nodiscard]] Panel panel(double top, double bottom, Cents ticks, Cents (*amountOf)(const SaleResult&),
                             const char* name, const char* label) const {
-    Cents low = 0;
-    Cents high = 1;
-    for (const SaleResult& point : m_curve.points) {
-      low = std::min(low, amountOf(point));
-      high = std::max(high, amountOf(point));
-    }
-    const Cents tick = tickFor(high - low, ticks);
-    return {top, bottom, floorTo(low, tick), floorTo(high + tick - 1, tick), tick, amountOf, name, label};
+    const AxisEnds ends = axisOf(m_curve, amountOf);
+    const Cents tick = roundStep(ends.high - ends.low, ticks);
+    return {top,  bottom, roundedDown(ends.low, tick), roundedUp(ends.high, tick), tick, amountOf,
+            name, label};
   }
 
   [[nodiscard]] double x(Cents price) const {
@@ -152,8 +154,9 @@ class Picture {
           kLeft - 8, line + 5, tickText(at, panel.tick));
     }
     drawBands(panel);
-    add("<text x=\"{}\" y=\"{}\" font-size=\"15\">{} ({})</text>\n", kLeft, panel.top - 12, panel.label,
-        currency());
+    const bool hasZero = panel.low <= 0 && panel.high >= 0;
+    add("<text x=\"{}\" y=\"{}\" font-size=\"15\">{} ({}){}</text>\n", kLeft, panel.top - 12, panel.label,
+        currency(), hasZero ? "" : ", axis from " + tickText(panel.low, panel.tick));
     add(R"(<polyline class="{}" fill="none" stroke="{}" stroke-width="2.25" points=")", panel.name,
         panel.amount == netOf ? "#0550ae" : "#a33600");
     for (const SaleResult& point : m_curve.points)
@@ -176,8 +179,8 @@ class Picture {
 
   void drawPrices(const Panel& upper, const Panel& lower) {
     constexpr Cents ticks = 8;
-    const Cents tick = tickFor(m_curve.range.last - m_curve.range.first, ticks);
-    const Cents first = floorTo(m_curve.range.first + tick - 1, tick);
+    const Cents tick = roundStep(m_curve.range.last - m_curve.range.first, ticks);
+    const Cents first = roundedUp(m_curve.range.first, tick);
     for (Cents at = first; at <= m_curve.range.last; at += tick) {
       for (const Panel& panel : {upper, lower})
         add("<line class=\"grid\" stroke=\"#d8dee4\" x1=\"{0:.2f}\" x2=\"{0:.2f}\" y1=\"{1}\" y2=\"{2}\"/>\n",

@@ -1,3 +1,4 @@
+#include <CLI/CLI.hpp>
 #include <exception>
 #include <fstream>
 #include <iostream>

@@ -1,36 +1,35 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <vector>
 
 #include "pricing.h"
 #include "table.h"
 
-/// How a sum is kept once an amount was added to it, which can show in its cents.
-enum class KeptAs : std::uint8_t { Double, Single, DoubleText, SingleText };
-
 /// One amount of a fee, and the rule that produced it.
 struct ExplainedStep {
-  std::string step;
-  double amount = 0.0;  ///< as it was added
-  std::string shown;    ///< that amount as a text, with as many decimals as it has
+  std::string name;
+  Currency amount;  ///< rounded to four decimals, which is how it is shown
   std::string rule;
-  KeptAs kept = KeptAs::Double;
 };
 
-/// A fee as the sum of its steps, in the order in which they are added.
+/// A fee as the sum of its steps, in the order in which they are added. Where the fee is rounded to the cent,
+/// the last step says by how much.
 struct ExplainedFee {
   std::string name;
   std::vector<ExplainedStep> steps;
   std::string figure;  ///< as it is shown without an explanation; "" where there is no such fee
   std::string rule;    ///< "" where the steps say everything
+  std::string partOf;  ///< the fee that this one is added to; "" where it is added to none
 };
 
 /// How the fees of a listing or payment came about. The rules are the fee model's own: this asks it which of
 /// them applied, and holds no figure. Throws what Pricer::price throws.
 std::vector<ExplainedFee> explain(Pricer& pricer, const Listing& listing);
 
-/// The explanation as a table of steps, amounts and rules; each fee stands below its steps. In a text the
-/// steps are set in.
-Table explanationTable(const std::vector<ExplainedFee>& fees, const std::string& currency, Format format);
+/// The explanation as a table of steps, amounts and rules; each fee stands below its steps. A text sets the
+/// steps in and names the currency once. CSV and JSON have both in each row: under `part_of` stands the step
+/// whose amount this one is a part of. The parts of a step add up to it; what is part of none can be read
+/// alone.
+Table explanationTable(const std::vector<ExplainedFee>& fees, const std::string& currency, Format format,
+                       const NumberLocale& locale);

@@ -11,16 +11,16 @@ constexpr std::array<std::string_view, 13> kNames{
     "Highlight",        "Gift services", "Ten days", "Buy it Now",       "Scheduled listing",
     "Listing Designer", "Subtitle",      "Pictures"};
 
-bool dependsOnVehicle(ExtraFeature feature) {
-  using enum ExtraFeature;
-  return feature == Gallery || feature == GalleryFeatured || feature == Bold || feature == GiftIcon ||
-         feature == TenDayAuction || feature == BuyItNow || feature == Scheduled;
+/// As the window names it: on eBay Motors gift services are something else.
+std::string_view nameOf(ExtraFeature feature, bool isMotors) {
+  if (isMotors && feature == ExtraFeature::GiftIcon) return "Listing icon";
+  return kNames.at(static_cast<std::size_t>(feature));
 }
 
 /// The words of pictures: each kind with the price that the schedule answers for it alone.
 std::string pictureRule(const CAuctionSite& site, const FeatureCircumstances& listing,
                         const ExplainWords& words) {
-  constexpr int packChoice = 5;
+  constexpr int packChoice = CAuctionSite::picturePackChoice;
   const auto alone = [&](bool hasPictures, int choice, bool isSupersize, bool isSlideshow) {
     return words.money(site.PhotosFee(hasPictures, choice, isSupersize, isSlideshow, listing.isVehicle));
   };
@@ -37,22 +37,23 @@ std::string pictureRule(const CAuctionSite& site, const FeatureCircumstances& li
 }
 
 /// Why a feature costs what it costs, before it is doubled.
-std::string priceRule(const CAuctionSite& site, const FeeAddition& addition,
-                      const FeatureCircumstances& listing, const ExplainWords& words) {
-  if (addition.isCovered) return "included in Gallery Featured";
-  if (addition.feature == ExtraFeature::Pictures) return pictureRule(site, listing, words);
-  // The pack takes the price away that the gallery has without it.
-  const bool isInPack = addition.feature == ExtraFeature::Gallery &&
-                        addition.fee < site.GalleryFee(listing.isVehicle, false, 0);
-  if (isInPack) return "included in the picture pack";
-  std::string rule = addition.fee > 0.0F ? words.money(addition.fee) : "free";
-  if (listing.isVehicle && dependsOnVehicle(addition.feature)) {
-    rule += " for a vehicle";
-  } else if (listing.isMotors && addition.feature == ExtraFeature::GalleryFeatured) {
-    rule += " on eBay Motors";
+std::string priceRule(const FeeAddition& addition, const ExplainWords& words) {
+  std::string price = addition.fee > 0.0F ? words.money(addition.fee) : "free";
+  switch (addition.cause) {
+    case FeeCause::None:
+      return price;
+    case FeeCause::Vehicle:
+      return price + " for a vehicle";
+    case FeeCause::Motors:
+      return price + " on eBay Motors";
+    case FeeCause::SeveralItems:
+      return price + " for several items";
+    case FeeCause::PicturePack:
+      return "included in the picture pack";
+    case FeeCause::GalleryFeatured:
+      break;
   }
-  if (listing.items > 1 && addition.feature == ExtraFeature::HomePageFeatured) rule += " for several items";
-  return rule;
+  return "included in Gallery Featured";
 }
 
 bool hasAnyPictures(const FeatureCircumstances& listing) {
@@ -68,16 +69,14 @@ std::vector<ExplainedStep> explainFeatures(const CAuctionSite& site, const FeeRe
   for (const FeeAddition& addition : record) {
     // Pictures are asked for even where none are chosen.
     if (addition.feature == ExtraFeature::Pictures && !hasAnyPictures(circumstances)) continue;
-    std::string rule = priceRule(site, addition, circumstances, words);
-    if (circumstances.isTwoCategories && addition.fee > 0.0F) {
-      const bool isDoubled = addition.addend > static_cast<double>(addition.fee);
-      rule += isDoubled ? kDoubled : "; not doubled for two categories";
-    }
-    steps.push_back({.step = std::string(kNames[static_cast<std::size_t>(addition.feature)]),
-                     .amount = addition.addend,
-                     .shown = words.money(static_cast<float>(addition.addend)),
-                     .rule = std::move(rule),
-                     .kept = KeptAs::Single});
+    std::string rule = addition.feature == ExtraFeature::Pictures ? pictureRule(site, circumstances, words)
+                                                                  : priceRule(addition, words);
+    if (circumstances.isTwoCategories && addition.fee > 0.0F)
+      rule += addition.isDoubled ? kDoubled : "; not doubled for two categories";
+    const Currency fee = Currency::fromNumber(static_cast<double>(addition.fee));
+    steps.push_back({.name = std::string(nameOf(addition.feature, circumstances.isMotors)),
+                     .amount = addition.isDoubled ? fee + fee : fee,
+                     .rule = std::move(rule)});
   }
   return steps;
 }

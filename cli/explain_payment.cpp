@@ -24,15 +24,23 @@ class PaymentExplanation {
                                  payment.txtConversion, payment.chkInternationalPayPal)
                 : service.Billpoint(listing.amount, billpoint.IsDiscounted, billpoint.IsCreditCard,
                                     billpoint.IsInternational, payment.txtConversion);
-    m_amount = words.money(toDouble(listing.amount, words.locale()));
+    m_amount = words.price(listing.amount);
   }
 
   [[nodiscard]] std::vector<ExplainedFee> run() const {
-    ExplainedFee fee{.name = "Payment fee", .steps = {share(), flat()}, .figure = m_fees.payment, .rule = {}};
-    if (m_isPayPal && !m_isCreditCard) fee.steps.push_back(cap());
+    ExplainedFee fee{.name = "Payment fee",
+                     .steps = {share(), flat()},
+                     .figure = m_fees.payment,
+                     .rule = {},
+                     .partOf = {}};
+    if (m_isPayPal && !m_isCreditCard) fee.steps.push_back(cap(fee.steps[0].amount + fee.steps[1].amount));
     if (m_fee.surcharge) fee.steps.push_back(surcharge());
     return {std::move(fee),
-            {.name = "Net", .steps = {}, .figure = m_fees.net, .rule = m_amount + " less the payment fee"}};
+            {.name = "Net",
+             .steps = {},
+             .figure = m_fees.net,
+             .rule = m_amount + " less the payment fee",
+             .partOf = {}}};
   }
 
  private:
@@ -48,40 +56,28 @@ class PaymentExplanation {
                          isReduced ? reduced : "standard");
       if (!m_isPayPal) rule += m_isCreditCard ? " of credit cards" : " of eChecks";
     }
-    return {.step = "Share of the amount",
-            .amount = m_fee.shareOfAmount,
-            .shown = m_isPayPal ? m_words.money(m_fee.shareOfAmount)
-                                : m_words.money(static_cast<float>(m_fee.shareOfAmount)),
+    return {.name = "Share of the amount",
+            .amount = Currency::fromNumber(m_fee.shareOfAmount),
             .rule = std::move(rule)};
   }
 
   [[nodiscard]] ExplainedStep flat() const {
-    return {.step = "Flat fee",
-            .amount = static_cast<double>(m_fee.flatFee),
-            .shown = m_words.money(m_fee.flatFee),
-            .rule = convertedRule(m_isPayPal ? Figure::PayPalFlatFee : Figure::BillpointFlatFee),
-            .kept = m_isPayPal ? KeptAs::DoubleText : KeptAs::SingleText};
+    return {.name = "Flat fee",
+            .amount = Currency::fromNumber(static_cast<double>(m_fee.flatFee)),
+            .rule = convertedRule(m_isPayPal ? Figure::PayPalFlatFee : Figure::BillpointFlatFee)};
   }
 
-  [[nodiscard]] ExplainedStep cap() const {
+  [[nodiscard]] ExplainedStep cap(Currency before) const {
     const std::string limit = convertedRule(Figure::PayPalMaxFeeNonCC);
-    ExplainedStep step{.step = "Cap",
-                       .amount = 0.0,
-                       .shown = m_words.money(0.0F),
-                       .rule = "an eCheck, not above the cap of " + limit};
-    if (!m_fee.cap) return step;
-    const double before = m_fee.shareOfAmount + static_cast<double>(m_fee.flatFee);
-    step.amount = static_cast<double>(*m_fee.cap) - before;
-    step.shown = m_words.money(static_cast<float>(step.amount));
-    step.rule = "an eCheck, capped at " + limit;
-    step.kept = KeptAs::SingleText;
-    return step;
+    if (!m_fee.cap) return {.name = "Cap", .amount = {}, .rule = "an eCheck, not above the cap of " + limit};
+    return {.name = "Cap",
+            .amount = Currency::fromNumber(static_cast<double>(*m_fee.cap)) - before,
+            .rule = "an eCheck, capped at " + limit};
   }
 
   [[nodiscard]] ExplainedStep surcharge() const {
-    return {.step = "International",
-            .amount = *m_fee.surcharge,
-            .shown = m_words.money(*m_fee.surcharge),
+    return {.name = "International",
+            .amount = Currency::fromNumber(*m_fee.surcharge),
             .rule = m_words.percent(CPaymentService::kInternationalShare) + " of " + m_amount +
                     (m_fee.cap ? ", added after the cap" : "")};
   }
@@ -89,8 +85,7 @@ class PaymentExplanation {
   /// An amount of the schedule, and where it follows the rate what it was converted from.
   [[nodiscard]] std::string convertedRule(Figure figure) const {
     std::string amount = m_words.money(m_site.amount(figure));
-    const FeeCell& cell =
-        kFeeSchedule[static_cast<std::size_t>(figure)].sites[static_cast<std::size_t>(m_listing.site - 1)];
+    const FeeCell& cell = cellOf(figure, m_listing.site);
     if (!cell.followsTheRate) return amount;
     return fmt::format("{}, {} US dollars at {}", amount, m_words.money(static_cast<float>(cell.value)),
                        m_words.number(m_fee.rate));

@@ -7,9 +7,6 @@
 
 namespace {
 
-constexpr int kReserve = 1;
-constexpr int kThirtyDayAd = 2;
-
 /// One single item under explanation: its site, its prices, and how it ended.
 class SingleExplanation {
  public:
@@ -17,34 +14,37 @@ class SingleExplanation {
       : m_choices(listing.single),
         m_words(words),
         m_fees(fees),
+        m_openingText(listing.opening),
         m_opening(single(listing.opening)),
-        m_isRaised(m_choices.cboIsReserve == 0 && currency(listing.closing) < currency(listing.opening)),
-        m_isSold(!fees.finalValue.empty()) {
+        m_isSold(fees.sold.count > 0) {
     m_site.Site(listing.site);
-    m_bid =
-        m_isRaised ? single(plainText(currency(listing.opening), words.locale())) : single(listing.closing);
   }
 
   [[nodiscard]] std::vector<ExplainedFee> run() const {
-    std::vector<ExplainedFee> explained{
-        {.name = "Listing fee", .steps = {insertion()}, .figure = m_fees.insertion, .rule = {}}};
-    if (m_choices.cboIsReserve == kReserve) explained.push_back(reserve());
+    std::vector<ExplainedFee> explained{{.name = "Listing fee",
+                                         .steps = {insertion()},
+                                         .figure = m_fees.insertion,
+                                         .rule = {},
+                                         .partOf = kTotalFees}};
+    if (m_choices.hasReserve()) explained.push_back(reserve());
     explained.push_back(finalValue());
     explained.push_back(features());
-    explained.push_back({.name = "Total fees", .steps = {}, .figure = m_fees.total, .rule = totalRule()});
-    explained.push_back({.name = "Net", .steps = {}, .figure = m_fees.net, .rule = netRule()});
+    explained.push_back(
+        {.name = kTotalFees, .steps = {}, .figure = m_fees.total, .rule = totalRule(), .partOf = {}});
+    explained.push_back({.name = "Net", .steps = {}, .figure = m_fees.net, .rule = netRule(), .partOf = {}});
     return explained;
   }
 
  private:
+  /// A fee that two categories double.
+  [[nodiscard]] ExplainedStep step(std::string name, Currency fee, std::string rule) const {
+    if (m_choices.chkTwoCategories && fee > Currency{}) rule += kDoubled;
+    return {.name = std::move(name),
+            .amount = m_choices.chkTwoCategories ? fee + fee : fee,
+            .rule = std::move(rule)};
+  }
   [[nodiscard]] ExplainedStep step(std::string name, float fee, std::string rule) const {
-    if (m_choices.chkTwoCategories && fee > 0.0F) rule += kDoubled;
-    const float charged = m_choices.chkTwoCategories ? fee + fee : fee;
-    return {.step = std::move(name),
-            .amount = static_cast<double>(charged),
-            .shown = m_words.money(charged),
-            .rule = std::move(rule),
-            .kept = KeptAs::Single};
+    return step(std::move(name), Currency::fromNumber(static_cast<double>(fee)), std::move(rule));
   }
 
   [[nodiscard]] ExplainedStep insertion() const {
@@ -63,44 +63,55 @@ class SingleExplanation {
       return step("Listing a vehicle", fee, vehicleName() + ": " + m_words.money(fee));
     }
     const LadderStep ladder = listingFeeStep(m_site, m_opening);
-    return step("Opening price " + m_words.money(m_opening), ladder.fee,
+    return step("Opening price " + m_words.price(m_openingText), ladder.fee,
                 ladderRule(ladder, m_opening, m_words));
   }
 
   [[nodiscard]] ExplainedFee reserve() const {
-    if (m_isSold)
-      return {.name = "Reserve fee", .steps = {}, .figure = {}, .rule = "none: the reserve was met"};
-    const ReserveStep tier =
-        reserveStep(m_site, m_opening, m_choices.chkVehicle, m_choices.cboRealEstateType == kThirtyDayAd);
-    return {.name = "Reserve fee",
-            .steps = {step("Reserve of " + m_words.money(m_opening), tier.fee, reserveRule(tier))},
-            .figure = m_fees.reserve,
-            .rule = {}};
+    ExplainedFee fee{
+        .name = "Reserve fee", .steps = {}, .figure = m_fees.reserve, .rule = {}, .partOf = kTotalFees};
+    if (m_isSold) {
+      fee.rule = "none: the reserve was met";
+      return fee;
+    }
+    const ReserveStep tier = reserveStep(m_site, m_opening, m_choices.chkVehicle, m_choices.isThirtyDayAd());
+    const Currency charged = tier.rule == ReserveRule::Share
+                                 ? shareOf(tier.share, amountOf(m_openingText, m_words.locale()).toDouble())
+                                 : Currency::fromNumber(static_cast<double>(tier.fee));
+    fee.steps = {step("Reserve of " + m_words.price(m_openingText), charged,
+                      reserveBounds(tier.tier) + reservePrice(tier))};
+    return fee;
   }
 
-  [[nodiscard]] std::string reserveRule(const ReserveStep& tier) const {
-    const float second = m_site.ReserveSecondTierLower();
-    const float third = m_site.ReserveThirdTierLower(m_choices.chkVehicle, false);
-    const std::string whose = m_choices.chkVehicle ? " for a vehicle" : "";
-    if (tier.tier == 1)
-      return fmt::format("tier 1, below {}{}: {}", m_words.money(second), whose, m_words.money(tier.fee));
-    const std::string bounds = tier.tier == 2
-                                   ? fmt::format("tier 2, from {} to below {}{}: ", m_words.money(second),
-                                                 m_words.money(third), whose)
-                                   : fmt::format("tier 3, from {}{}: ", m_words.money(third), whose);
-    if (tier.fee <= 0.0F) return bounds + "free";
-    const double share =
-        m_site.share(tier.tier == 2 ? Figure::ReserveSecondTierShare : Figure::ReserveThirdTierShare);
-    const bool isFlat = share <= 0.0 || (tier.tier == 2 && m_choices.chkVehicle);
-    if (isFlat) return bounds + m_words.money(tier.fee);
-    const auto cap = static_cast<double>(m_site.amount(Figure::ReserveThirdTierCap));
-    const bool isCapped = tier.tier == 3 && cap < share * static_cast<double>(m_opening);
-    return fmt::format("{}{} of {}{}", bounds, m_words.percent(share), m_words.money(m_opening),
-                       isCapped ? ", capped at " + m_words.money(tier.fee) : "");
+  [[nodiscard]] std::string reserveBounds(int tier) const {
+    const std::string second = m_words.money(m_site.ReserveSecondTierLower());
+    const std::string third = m_words.money(m_site.ReserveThirdTierLower(m_choices.chkVehicle, false));
+    const std::string whose = m_choices.chkVehicle ? " for a vehicle: " : ": ";
+    if (tier == 1) return "tier 1, below " + second + whose;
+    if (tier == 2) return "tier 2, from " + second + " to below " + third + whose;
+    return "tier 3, from " + third + whose;
+  }
+
+  [[nodiscard]] std::string reservePrice(const ReserveStep& tier) const {
+    std::string fee = tier.fee > 0.0F ? m_words.money(tier.fee) : "free";
+    std::string share = m_words.percent(tier.share) + " of " + m_words.price(m_openingText);
+    switch (tier.rule) {
+      case ReserveRule::Flat:
+        return fee;
+      case ReserveRule::Share:
+        return share;
+      case ReserveRule::Capped:
+        break;
+    }
+    return share + ", capped at " + fee;
   }
 
   [[nodiscard]] ExplainedFee finalValue() const {
-    ExplainedFee fee{.name = "Final value fee", .steps = {}, .figure = m_fees.finalValue, .rule = {}};
+    ExplainedFee fee{.name = "Final value fee",
+                     .steps = {},
+                     .figure = m_fees.finalValue,
+                     .rule = {},
+                     .partOf = kTotalFees};
     if (!m_isSold) {
       fee.rule = m_choices.chkDidNotSell ? "none: it did not sell" : "none: the reserve was not met";
     } else if (m_choices.chkRealEstate) {
@@ -108,36 +119,26 @@ class SingleExplanation {
     } else if (m_choices.chkVehicle) {
       fee.steps = vehicleSale();
     } else {
-      const FinalValueParts parts(m_site, m_bid);
-      int tier = 1;
-      for (const FinalValueParts::Part& part : parts.parts())
-        fee.steps.push_back(
-            saleStep(fmt::format("Final value, tier {}", tier++), part.amount(), partRule(part, m_words)));
+      fee.steps = explainSale(m_site, m_fees.sold.price, m_fees.sold.count, m_words);
     }
-    // The parts are added in double precision, and their sum alone is rounded.
-    if (!fee.steps.empty()) fee.steps.back().kept = KeptAs::Single;
     return fee;
   }
 
-  [[nodiscard]] ExplainedStep saleStep(std::string name, double amount, std::string rule) const {
-    return {.step = std::move(name),
-            .amount = amount,
-            .shown = m_words.money(static_cast<float>(amount)),
-            .rule = std::move(rule)};
-  }
-
   [[nodiscard]] std::vector<ExplainedStep> vehicleSale() const {
-    const CAuctionSite::VehicleSaleRule rule = m_site.VehicleSale(m_choices.optMotorcycle, m_bid);
+    const std::string& bid = m_fees.sold.price;
+    const CAuctionSite::VehicleSaleRule rule = m_site.VehicleSale(m_choices.optMotorcycle, single(bid));
     std::vector<ExplainedStep> steps;
     if (rule.flat) {
       const float flat = m_site.amount(*rule.flat);
-      steps.push_back(saleStep("Sale of a vehicle", static_cast<double>(flat),
-                               vehicleName() + saleBound(*rule.flat) + ": " + m_words.money(flat)));
+      steps.push_back({.name = "Sale of a vehicle",
+                       .amount = Currency::fromNumber(static_cast<double>(flat)),
+                       .rule = vehicleName() + saleBound(*rule.flat) + ": " + m_words.money(flat)});
     }
     if (rule.takesShare) {
       const double share = m_site.share(Figure::VehicleSaleShare);
-      steps.push_back(saleStep("Share of its price", share * static_cast<double>(m_bid),
-                               m_words.percent(share) + " of " + m_words.money(m_bid)));
+      steps.push_back({.name = "Share of its price",
+                       .amount = shareOf(share, amountOf(bid, m_words.locale()).toDouble()),
+                       .rule = m_words.percent(share) + " of " + m_words.price(bid)});
     }
     return steps;
   }
@@ -166,7 +167,8 @@ class SingleExplanation {
                                                .isSlideshow = chosen.IsSlideshow},
                                               m_words),
                      .figure = m_fees.extras,
-                     .rule = {}};
+                     .rule = {},
+                     .partOf = kTotalFees};
     if (fee.steps.empty()) fee.rule = "none chosen";
     return fee;
   }
@@ -178,17 +180,16 @@ class SingleExplanation {
 
   [[nodiscard]] std::string netRule() const {
     if (!m_isSold) return "nothing was sold, less the total fees";
-    return fmt::format("sold for {}{}, less the total fees", m_words.money(m_bid),
-                       m_isRaised ? ", the opening price" : "");
+    const SoldItems& sold = m_fees.sold;
+    return fmt::format("sold for {}{}, less the total fees",
+                       twoDecimals(amountOf(sold.price, m_words.locale()), m_words.locale()),
+                       sold.isAtOpening ? ", the opening price" : "");
   }
 
   [[nodiscard]] std::string vehicleName() const {
     return m_choices.optMotorcycle ? "a motorcycle" : "a vehicle other than a motorcycle";
   }
 
-  [[nodiscard]] Currency currency(const std::string& text) const {
-    return text.empty() ? Currency{} : toCurrency(text, m_words.locale());
-  }
   [[nodiscard]] float single(const std::string& text) const {
     return text.empty() ? 0.0F : toSingle(text, m_words.locale());
   }
@@ -197,10 +198,9 @@ class SingleExplanation {
   const ExplainWords& m_words;
   const Fees& m_fees;
   CAuctionSite m_site;
+  const std::string& m_openingText;
   float m_opening;
-  bool m_isRaised;
   bool m_isSold;
-  float m_bid = 0.0F;
 };
 
 }  // namespace
@@ -212,14 +212,6 @@ std::string ladderRule(const LadderStep& step, float price, const ExplainWords& 
     return fmt::format("tier {}, above {}: {}", step.tier, words.money(step.lower), fee);
   return fmt::format("tier {}, {} to {}: {}", step.tier, words.money(step.lower), words.money(step.upper),
                      fee);
-}
-
-std::string partRule(const FinalValueParts::Part& part, const ExplainWords& words) {
-  const auto money = [&words](double amount) { return words.money(static_cast<float>(amount)); };
-  std::string tier;
-  if (part.above > 0.0) tier = "above " + money(part.above);
-  if (part.upTo > 0.0) tier += (tier.empty() ? "up to " : " up to ") + money(part.upTo);
-  return fmt::format("{} of {} ({})", words.percent(part.share), money(part.base), tier);
 }
 
 std::vector<ExplainedFee> explainSingle(const Listing& listing, const ExplainWords& words, const Fees& fees) {

@@ -37,6 +37,7 @@ struct Option {
   std::string_view help;
   /// Takes over a value. What a ticked box of the window needs besides is ticked as well. Throws OptionError.
   void (*set)(Listing& listing, std::string_view value);
+  std::string_view helpOfSeveral = {};  ///< instead of `help` for several items; "" if it is the same
 };
 
 [[nodiscard]] std::span<const Option> options();
@@ -44,6 +45,7 @@ struct Option {
 /// A control of the window by its name, set to what its box holds: a text, "0" or "1", or a list index.
 struct WindowControl {
   std::string_view name;
+  OptionKind kind;
   OptionScope scope;
   void (*set)(Listing& listing, std::string_view value);
 };

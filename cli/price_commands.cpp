@@ -1,6 +1,7 @@
 #include "price_commands.h"
 
 #include <array>
+#include <CLI/CLI.hpp>
 #include <memory>
 
 #include "explain.h"
@@ -9,30 +10,34 @@
 
 namespace {
 
-constexpr std::array<FeeColumn, 7> kFeeColumns{{{"insertion_fee", "Listing fee", &Fees::insertion},
-                                                {"reserve_fee", "Reserve fee", &Fees::reserve},
-                                                {"extra_features", "Extra features", &Fees::extras},
-                                                {"final_value_fee", "Final value fee", &Fees::finalValue},
-                                                {"total_fees", "Total fees", &Fees::total},
-                                                {"payment_fee", "Payment fee", &Fees::payment},
-                                                {"net", "Net", &Fees::net}}};
+/// What the tab of several items shows besides.
+constexpr std::array<FeeColumn, 2> kMultipleColumns{
+    {{"total_sales", "Total sales", &Fees::sales}, {"fees_per_item", "Fees per item sold", &Fees::perItem}}};
+
+std::vector<FeeColumn> columnsOf(ListingKind kind) {
+  std::vector<FeeColumn> columns(kFeeColumns.begin(), kFeeColumns.end());
+  if (kind == ListingKind::Multiple)
+    columns.insert(columns.end(), kMultipleColumns.begin(), kMultipleColumns.end());
+  return columns;
+}
 
 /// One line for each fee, for people.
-Table verticalTable(const Fees& fees, const std::string& currency) {
+Table verticalTable(const std::vector<FeeColumn>& columns, const Fees& fees, const std::string& currency) {
   Table table{.title = {}, .columns = {{"fee", ""}, {"currency", ""}, {"amount", "", true}}, .rows = {}};
-  for (const FeeColumn& row : kFeeColumns) {
-    if (!(fees.*row.fee).empty()) table.rows.push_back({row.heading, currency, fees.*row.fee});
+  for (const FeeColumn& row : columns) {
+    const std::string& amount = fees.*row.fee;
+    if (!amount.empty()) table.rows.push_back({row.heading, amount == kNotAvailable ? "" : currency, amount});
   }
   return table;
 }
 
-/// One row for the listing, for programs.
-Table horizontalTable(const Fees& fees, const std::string& currency) {
+/// One row for the listing, for programs, to which an amount that is not available is none.
+Table horizontalTable(const std::vector<FeeColumn>& columns, const Fees& fees, const std::string& currency) {
   Table table;
   std::vector<std::string> cells;
-  for (const FeeColumn& row : kFeeColumns) {
+  for (const FeeColumn& row : columns) {
     table.columns.push_back({row.key, row.heading, true});
-    cells.push_back(fees.*row.fee);
+    cells.push_back(fees.*row.fee == kNotAvailable ? "" : fees.*row.fee);
   }
   table.columns.push_back({"currency", "Currency"});
   cells.push_back(currency);
@@ -49,7 +54,7 @@ constexpr std::array<PriceCommand, 4> kCommands{{
     {ListingKind::Single, "The fees of a single item"},
     {ListingKind::Multiple, "The fees of several items in one listing"},
     {ListingKind::Payment, "What PayPal keeps of a payment"},
-    {ListingKind::Billpoint, "What eBay Payments keeps of a payment"},
+    {ListingKind::Billpoint, "What eBay Payments (Billpoint) keeps of a payment"},
 }};
 
 struct PriceOptions {
@@ -60,14 +65,13 @@ struct PriceOptions {
 void price(const PriceOptions& options, ListingKind kind, Session& session) {
   Pricer pricer(session.locale());
   const Listing listing = options.listing.listing(kind, session.locale(), !session.decimal.empty());
+  const std::string currency = Pricer::currencyOf(listing);
   if (options.isExplained) {
     return session.write(
-        explanationTable(explain(pricer, listing), Pricer::currencyOf(listing), session.format));
+        explanationTable(explain(pricer, listing), currency, session.format, pricer.locale()));
   }
-  const Fees fees = pricer.price(listing);
-  const std::string currency = Pricer::currencyOf(listing);
-  session.write(session.format == Format::Text ? verticalTable(fees, currency)
-                                               : horizontalTable(fees, currency));
+  const auto tableOf = session.format == Format::Text ? verticalTable : horizontalTable;
+  session.write(tableOf(columnsOf(kind), pricer.price(listing), currency));
 }
 
 }  // namespace
@@ -77,10 +81,11 @@ void addPriceCommands(CLI::App& program, Session& session) {
     CLI::App* command = program.add_subcommand(std::string(nameOf(row.kind)), row.help);
     const auto options = std::make_shared<PriceOptions>();
     options->listing.addTo(*command, scopeOf(row.kind));
-    command->add_flag("--explain", options->isExplained, "every amount with the rule that produced it");
+    command->add_flag(
+        "--explain", options->isExplained,
+        "every amount with the rule that produced it; in csv and json part_of names the step that an "
+        "amount is a part of, whose parts add up to it");
     addOutputOptions(*command, session);
     command->callback([options, kind = row.kind, &session] { price(*options, kind, session); });
   }
 }
-
-std::span<const FeeColumn> feeColumns() { return kFeeColumns; }

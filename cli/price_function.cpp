@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "amount_text.h"
 #include "entry_rules.h"
@@ -26,11 +27,12 @@ constexpr auto kPriceBounds = std::to_array<Figure>({
     Figure::VehicleSaleHighestFrom,
 });
 
-double boundOf(Figure figure, std::int32_t site) {
-  return kFeeSchedule.at(static_cast<std::size_t>(figure)).sites.at(static_cast<std::size_t>(site - 1)).value;
+/// Rounded down. Where a rate makes a bound larger than any price with its shipping, how much does not
+/// matter.
+Cents wholeCents(double amount) {
+  constexpr auto most = static_cast<double>(4 * PriceFunction::largestPrice);
+  return static_cast<Cents>(std::floor(std::min(amount * kCentsPerOne, most)));
 }
-
-Cents wholeCents(double amount) { return static_cast<Cents>(std::floor(amount * kCentsPerOne)); }
 
 Cents centsOf(const std::string& text, const NumberLocale& locale) {
   return toCurrency(text, locale).tenThousandths() / kTenThousandthsPerCent;
@@ -38,7 +40,8 @@ Cents centsOf(const std::string& text, const NumberLocale& locale) {
 
 /// The lowest whole cent that is not below the amount.
 Cents centsNotBelow(Currency amount) {
-  return (amount.tenThousandths() + kTenThousandthsPerCent - 1) / kTenThousandthsPerCent;
+  const std::int64_t units = amount.tenThousandths();
+  return units / kTenThousandthsPerCent + (units % kTenThousandthsPerCent > 0 ? 1 : 0);
 }
 
 Listing paymentOf(const Sale& sale) {
@@ -61,7 +64,8 @@ CAuctionSite scheduleOf(const Listing& payment, const NumberLocale& locale) {
 
 /// The largest amount that is not above the bound, compared in single precision as the service does.
 Cents largestAmountWithin(float bound) {
-  Cents amount = wholeCents(static_cast<double>(bound)) + 1;
+  constexpr float upwards = std::numeric_limits<float>::infinity();
+  Cents amount = wholeCents(static_cast<double>(std::nextafter(bound, upwards)));
   while (static_cast<float>(static_cast<double>(amount) / kCentsPerOne) > bound) --amount;
   return amount;
 }
@@ -100,7 +104,7 @@ void PriceFunction::setPieces(const CAuctionSite& schedule) {
       if (cut > m_range.first && cut <= m_range.last) m_pieces.push_back(cut);
     }
   };
-  for (const Figure figure : kPriceBounds) cutAround(wholeCents(boundOf(figure, schedule.Site())));
+  for (const Figure figure : kPriceBounds) cutAround(wholeCents(cellOf(figure, schedule.Site()).value));
   // The cap of a fee bends it and is no jump; the threshold is one.
   if (m_sale.payment == PaymentService::Billpoint)
     cutAround(wholeCents(static_cast<double>(schedule.BillpointThreshold())) - m_sale.shippingCharged);

@@ -1,9 +1,15 @@
 #include "price_function_options.h"
 
+#include <algorithm>
+#include <CLI/CLI.hpp>
+
 #include "amount_text.h"
 #include "option_values.h"
+#include "quoted_text.h"
 
 namespace {
+
+constexpr std::int64_t kTenThousandthsPerCent = 100;
 
 const std::string kClosing = "closing";
 const std::string kOpeningAndClosing = "opening-and-closing";
@@ -13,6 +19,25 @@ const std::string kBillpoint = "billpoint";
 PaymentService serviceOf(const std::string& name) {
   if (name.empty()) return PaymentService::None;
   return name == kPayPal ? PaymentService::PayPal : PaymentService::Billpoint;
+}
+
+std::string largestPrice(const NumberLocale& locale) { return textOf(PriceFunction::largestPrice, locale); }
+
+std::string withLimit(const std::string& help) { return help + "; at most " + largestPrice({}); }
+
+void checkLargest(const std::string& option, const std::string& text, const NumberLocale& locale) {
+  const Currency largest = Currency::fromTenThousandths(PriceFunction::largestPrice * kTenThousandthsPerCent);
+  if (toCurrency(text, locale) > largest) {
+    throw OptionError(option + ": " + quotedText(text) + " is above " + largestPrice(locale) +
+                      ", the largest price that is calculated");
+  }
+}
+
+/// "the largest that eBay Payments takes": why no price is above the range.
+std::string reasonOfLargest(const PriceFunction& sale) {
+  if (!sale.isLimitedByPayment()) return "the largest that is calculated";
+  const bool hasShipping = sale.sale().shippingCharged > 0;
+  return std::string("the largest that eBay Payments takes") + (hasShipping ? " beside the shipping" : "");
 }
 
 void checkPayment(PaymentService service, const Listing& listing) {
@@ -34,18 +59,18 @@ void checkPayment(PaymentService service, const Listing& listing) {
 void SaleOptions::addTo(CLI::App& command) {
   m_listing.addTo(command, static_cast<OptionScope>(ForSingle | ForPayments),
                   {"closing", "did-not-sell", "amount"});
-  command
-      .add_option(
-          "--vary", m_vary,
-          "the price that moves: closing, from a given --opening on, or opening-and-closing, both the "
-          "same as of a fixed price (closing if there is an --opening)")
-      ->check(CLI::IsMember({kClosing, kOpeningAndClosing}).description(""))
-      ->type_name("PRICE");
-  command
-      .add_option("--payment", m_payment,
-                  "paypal or billpoint: count the fee of that service too, on price and shipping charged")
-      ->check(CLI::IsMember({kPayPal, kBillpoint}).description(""))
-      ->type_name("SERVICE");
+  CLI::Option* opening = command.get_option("--opening");
+  opening->description(withLimit(
+      "the opening bid, with --reserve the reserve price, if it is not to move; not with --fixed-price"));
+  takesOneOf(command.add_option(
+                 "--vary", m_vary,
+                 "the price that moves: closing, from a given --opening on, or opening-and-closing, both the "
+                 "same as of a fixed price (closing if there is an --opening)"),
+             kClosing + "|" + kOpeningAndClosing);
+  takesOneOf(command.add_option(
+                 "--payment", m_payment,
+                 "paypal or billpoint: count the fee of that service too, on price and shipping charged"),
+             kPayPal + "|" + kBillpoint);
   addAmountOption(command, "--shipping-charged", m_shippingCharged,
                   "what the buyer pays for shipping on top of the price; counts as income");
 }
@@ -64,34 +89,52 @@ Sale SaleOptions::sale(const Session& session) const {
   Sale sale;
   sale.listing = m_listing.listing(ListingKind::Single, session.locale(), !session.decimal.empty());
   sale.opensAtPrice = opensAtPrice(sale.listing);
+  if (!sale.opensAtPrice) checkLargest("--opening", sale.listing.opening, session.locale());
   sale.payment = serviceOf(m_payment);
   checkPayment(sale.payment, sale.listing);
-  sale.shippingCharged = amountOf("shipping-charged", m_shippingCharged, session);
-  if (sale.shippingCharged > PriceFunction::largestPrice)
-    throw OptionError("shipping-charged: above " + textOf(PriceFunction::largestPrice, session.locale()));
+  sale.shippingCharged = amountOf("--shipping-charged", m_shippingCharged, session);
   return sale;
 }
 
 void addAmountOption(CLI::App& command, const std::string& name, std::string& value,
                      const std::string& help) {
-  command.add_option(name, value, help)->type_name(std::string(valueName(OptionKind::Amount)));
+  command.add_option(name, value, withLimit(help))->type_name(std::string(valueName(OptionKind::Amount)));
 }
 
 Cents amountOf(const std::string& option, const std::string& text, const Session& session) {
   if (text.empty()) return 0;
-  constexpr std::int64_t perCent = 100;
   const Option amount{.name = option,
                       .kind = OptionKind::Amount,
                       .scope = ForSingle,
                       .values = {},
                       .help = {},
                       .set = nullptr};
-  checkValue(amount, text, session.locale(), !session.decimal.empty());
-  const std::int64_t units = toCurrency(text, session.locale()).tenThousandths();
-  if (units % perCent != 0) throw OptionError(option + ": \"" + text + "\" has parts of a cent");
-  return units / perCent;
+  const std::string number = readValue(amount, text, session.locale(), !session.decimal.empty());
+  checkLargest(option, number, session.locale());
+  const std::int64_t units = toCurrency(number, session.locale()).tenThousandths();
+  if (units % kTenThousandthsPerCent != 0)
+    throw OptionError(option + ": " + quotedText(text) + " has parts of a cent");
+  return units / kTenThousandthsPerCent;
+}
+
+Cents priceOf(const std::string& option, const std::string& text, const PriceFunction& sale,
+              const Session& session) {
+  const Cents price = amountOf(option, text, session);
+  if (price > sale.range().last) throw OptionError(option + ": must not be above " + largestOf(sale));
+  return price;
+}
+
+void checkSells(const PriceFunction& sale) {
+  const PriceRange range = sale.range();
+  if (range.first <= range.last) return;
+  throw OptionError("it cannot sell: " + priced(sale, range.first) + " is its lowest price, " +
+                    priced(sale, std::max<Cents>(range.last, 0)) + " " + reasonOfLargest(sale));
 }
 
 std::string priced(const PriceFunction& sale, Cents amount) {
   return Pricer::currencyOf(sale.sale().listing) + " " + textOf(amount, sale.locale());
+}
+
+std::string largestOf(const PriceFunction& sale) {
+  return priced(sale, sale.range().last) + ", " + reasonOfLargest(sale);
 }

@@ -2,17 +2,22 @@
 
 #include <utility>
 
+#include "amount_errors.h"
 #include "amount_text.h"
 
 namespace {
 
-const std::string kNotAvailable = "N/A";
+/// Whether the text is one that the user wrote, and not one that was calculated from these.
+bool isEntered(const std::string& text, const Listing& listing) {
+  return text == listing.opening || text == listing.closing || text == listing.offered ||
+         text == listing.sold || text == listing.amount || text == listing.payment.txtConversion;
+}
+
+}  // namespace
 
 Currency operator-(Currency left, Currency right) {
   return left + Currency::fromTenThousandths(-right.tenThousandths());
 }
-
-}  // namespace
 
 Pricer::Pricer(NumberLocale locale)
     : m_locale(std::move(locale)),
@@ -34,35 +39,58 @@ void Pricer::recalculate(const Listing& listing, ShownBoxes& boxes) {
   m_site.Site(listing.site);
   switch (listing.kind) {
     case ListingKind::Single:
-      boxes.single.txtStartingPrice = listing.opening;
-      boxes.single.txtPrice = listing.closing;
-      return recalculateSingleItem(listing.single, &m_regularAuction, m_locale, boxes.single);
+      recalculateSingle(listing, boxes.single);
+      return;
     case ListingKind::Multiple:
-      boxes.multiple = {};
-      boxes.multiple.txtDutchItemsOffered = listing.offered;
-      boxes.multiple.txtDutchOpeningPrice = listing.opening;
-      boxes.multiple.txtDutchItemsSold = listing.sold;
-      boxes.multiple.txtDutchFinalPrice = listing.closing;
-      return recalculateMultipleItems(listing.multiple, {.site = &m_site, .auction = &m_dutchAuction},
-                                      m_locale, kNotAvailable, boxes.multiple);
+      recalculateMultiple(listing, boxes.multiple);
+      return;
     case ListingKind::Payment:
-      boxes.payment.txtPayPalFee.clear();
-      boxes.payment.txtPaymentAmount = listing.amount;
-      return recalculatePayment(listing.payment, &m_paymentService, m_locale, boxes.payment);
+      return recalculatePayPal(listing, boxes.payment);
     case ListingKind::Billpoint:
       boxes.billpoint.clear();
-      return recalculateBillpoint(listing, boxes.billpoint);
+      boxes.billpoint = billpoint(listing).text;
   }
 }
 
-void Pricer::recalculateBillpoint(const Listing& listing, std::string& fee) {
+SingleItemFigures Pricer::recalculateSingle(const Listing& listing, SingleItemBoxes& boxes) {
+  boxes.txtStartingPrice = listing.opening;
+  boxes.txtPrice = listing.closing;
+  return recalculateSingleItem(listing.single, &m_regularAuction, m_locale, boxes);
+}
+
+MultipleItemsFigures Pricer::recalculateMultiple(const Listing& listing, MultipleItemsBoxes& boxes) {
+  boxes = {};
+  boxes.txtDutchItemsOffered = listing.offered;
+  boxes.txtDutchOpeningPrice = listing.opening;
+  boxes.txtDutchItemsSold = listing.sold;
+  boxes.txtDutchFinalPrice = listing.closing;
+  return recalculateMultipleItems(listing.multiple, {.site = &m_site, .auction = &m_dutchAuction}, m_locale,
+                                  kNotAvailable, boxes);
+}
+
+void Pricer::recalculatePayPal(const Listing& listing, PaymentBoxes& boxes) {
+  boxes.txtPayPalFee.clear();
+  boxes.txtPaymentAmount = listing.amount;
+  recalculatePayment(listing.payment, &m_paymentService, m_locale, boxes);
+}
+
+PaymentFee Pricer::billpoint(const Listing& listing) {
   const BillpointChoices& choices = listing.billpoint;
-  fee = m_paymentService.BillpointFee(listing.amount, choices.IsDiscounted, choices.IsCreditCard,
-                                      choices.IsInternational, listing.payment.txtConversion);
+  return m_paymentService.Billpoint(listing.amount, choices.IsDiscounted, choices.IsCreditCard,
+                                    choices.IsInternational, listing.payment.txtConversion);
 }
 
 Fees Pricer::price(const Listing& listing) {
-  recalculate(listing, m_boxes);
+  m_site.Site(listing.site);
+  try {
+    return feesOf(listing);
+  } catch (const OverflowError& error) {
+    if (isEntered(error.offendingText(), listing)) throw;
+    throw PricingError("the amounts given are too large to be calculated with");
+  }
+}
+
+Fees Pricer::feesOf(const Listing& listing) {
   switch (listing.kind) {
     case ListingKind::Single:
       return singleFees(listing);
@@ -77,58 +105,66 @@ Fees Pricer::price(const Listing& listing) {
 
 Fees Pricer::singleFees(const Listing& listing) {
   const SingleItemBoxes& boxes = m_boxes.single;
-  Fees fees{.insertion = boxes.txtInsertionFee,
-            .reserve = {},
-            .extras = boxes.txtExtras,
-            .finalValue = boxes.txtFVF,
-            .total = boxes.txtFees,
-            .payment = {},
-            .net = {}};
-  // The tab adds the reserve fee into the box of the insertion fee.
-  if (listing.single.cboIsReserve == 1 && boxes.txtFVF.empty()) {
-    fees.insertion = m_regularAuction.InsertionFee(listing.opening, listing.single.chkTwoCategories,
-                                                   listing.single.chkRealEstate, listing.single.chkVehicle,
-                                                   listing.single.optMotorcycle, listing.single.optTimeshare,
-                                                   listing.single.cboRealEstateType);
-    fees.reserve = twoDecimals(number(boxes.txtInsertionFee) - number(fees.insertion), m_locale);
-  }
-  const Currency revenue = boxes.txtFVF.empty() ? Currency{} : number(boxes.txtPrice);
-  fees.net = twoDecimals(revenue - number(boxes.txtFees), m_locale);
+  SingleItemFigures figures = recalculateSingle(listing, m_boxes.single);
+  Fees fees;
+  fees.insertion = twoDecimals(figures.insertion, m_locale);
+  if (figures.reserve) fees.reserve = twoDecimals(*figures.reserve, m_locale);
+  fees.extras = boxes.txtExtras;
+  fees.finalValue = boxes.txtFVF;
+  fees.total = boxes.txtFees;
+  // The sale brings whole cents, as the box shows them.
+  const Currency revenue = figures.isSold ? number(boxes.txtPrice) : Currency{};
+  fees.net = twoDecimals(revenue - figures.total, m_locale);
+  fees.sold = {.offered = 1,
+               .count = figures.isSold ? 1 : 0,
+               .price = std::move(figures.bid),
+               .isAtOpening = figures.isRaised};
   return fees;
 }
 
 Fees Pricer::multipleFees(const Listing& listing) {
   const MultipleItemsBoxes& boxes = m_boxes.multiple;
+  MultipleItemsFigures figures = recalculateMultiple(listing, m_boxes.multiple);
   if (boxes.txtDutchFees.empty())
     throw PricingError("items offered, opening price, items sold and lowest bid are needed");
-  // The box of the lowest bid shows two decimals; the fee was taken from the bid as it was entered.
-  const bool isAtOpening =
-      toInteger16(boxes.txtDutchItemsSold, m_locale) < toInteger16(listing.offered, m_locale) ||
-      number(listing.closing) < number(listing.opening);
-  const std::string& lowestBid = isAtOpening ? listing.opening : listing.closing;
-  Fees fees{.insertion = {},
-            .reserve = {},
-            .extras = boxes.txtExtraFeaturesDutch,
-            .finalValue = m_dutchAuction.FVF(lowestBid, boxes.txtDutchItemsSold),
-            .total = boxes.txtDutchFees,
-            .payment = {},
-            .net = {}};
-  // The tab shows the sum alone.
-  fees.insertion = twoDecimals(number(fees.total) - number(fees.extras) - number(fees.finalValue), m_locale);
-  fees.net = twoDecimals(number(boxes.txtTotalDutchAuctionSales) - number(fees.total), m_locale);
+  Fees fees;
+  fees.insertion = twoDecimals(figures.insertion, m_locale);
+  fees.extras = boxes.txtExtraFeaturesDutch;
+  fees.finalValue = twoDecimals(figures.finalValue, m_locale);
+  fees.total = boxes.txtDutchFees;
+  fees.net = twoDecimals(number(boxes.txtTotalDutchAuctionSales) - figures.total, m_locale);
+  fees.sales = boxes.txtTotalDutchAuctionSales;
+  fees.perItem = boxes.txtDutchCostPerItem;
+  fees.sold = {.offered = figures.offered,
+               .count = figures.sold,
+               .price = std::move(figures.price),
+               .isAtOpening = figures.isAtOpening};
   return fees;
 }
 
 Fees Pricer::paymentFees(const Listing& listing) {
+  if (listing.amount.empty()) throw PricingError("an amount is needed");
+  const Currency amount = number(listing.amount);
   Fees fees;
-  const bool isBillpoint = listing.kind == ListingKind::Billpoint;
-  if (isBillpoint && m_boxes.billpoint == kNotAvailable)
-    throw PricingError("the amount is above the largest that can be paid so");
-  fees.payment =
-      isBillpoint ? twoDecimals(std::string_view(m_boxes.billpoint), m_locale) : m_boxes.payment.txtPayPalFee;
-  if (fees.payment.empty()) throw PricingError("an amount is needed");
-  fees.net = twoDecimals(number(listing.amount) - number(fees.payment), m_locale);
+  fees.payment = listing.kind == ListingKind::Billpoint ? billpointFee(listing) : payPalFee(listing);
+  fees.net = twoDecimals(amount - number(fees.payment), m_locale);
   return fees;
+}
+
+std::string Pricer::payPalFee(const Listing& listing) {
+  recalculatePayPal(listing, m_boxes.payment);
+  return m_boxes.payment.txtPayPalFee;
+}
+
+std::string Pricer::billpointFee(const Listing& listing) {
+  const PaymentFee fee = billpoint(listing);
+  if (fee.limit && listing.site == CAuctionSite::eBayGermany)
+    throw PricingError("eBay Germany does not have eBay Payments");
+  if (fee.limit) {
+    throw PricingError("the amount is above " + twoDecimals(*fee.limit, m_locale) +
+                       ", the largest that eBay Payments takes");
+  }
+  return twoDecimals(std::string_view(fee.text), m_locale);
 }
 
 Currency Pricer::number(const std::string& text) const { return toCurrency(text, m_locale); }

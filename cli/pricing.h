@@ -1,10 +1,22 @@
 #pragma once
 
+#include <array>
 #include <stdexcept>
 #include <string>
 
 #include "currency.h"
 #include "listing.h"
+
+/// Throws OverflowError if the difference is out of range.
+Currency operator-(Currency left, Currency right);
+
+/// How many items were sold, and for what, as the tab settled it.
+struct SoldItems {
+  int offered = 1;
+  int count = 0;
+  std::string price;         ///< of each: the text of the price that counted, "" for nothing
+  bool isAtOpening = false;  ///< it is the opening price: items were left over, or no bid reached it
+};
 
 /// What a listing costs, as texts with two decimals; "" where there is no such fee.
 struct Fees {
@@ -15,7 +27,30 @@ struct Fees {
   std::string total;
   std::string payment;  ///< what the payment service keeps
   std::string net;      ///< what the seller keeps of the sale, or of the payment
+  std::string sales;    ///< of several items: what all that were sold bring
+  std::string perItem;  ///< of several items: the total for each that was sold, or `kNotAvailable`
+  SoldItems sold;       ///< of listings
 };
+
+/// What stands for the fees per item where none was sold.
+inline constexpr const char* kNotAvailable = "N/A";
+
+/// One fee of a listing as a row or a column of an answer.
+struct FeeColumn {
+  const char* key;
+  const char* heading;
+  std::string Fees::*fee;
+};
+
+/// Those of all kinds of listings and payments, in the order in which they are shown.
+inline constexpr std::array<FeeColumn, 7> kFeeColumns{
+    {{"insertion_fee", "Listing fee", &Fees::insertion},
+     {"reserve_fee", "Reserve fee", &Fees::reserve},
+     {"extra_features", "Extra features", &Fees::extras},
+     {"final_value_fee", "Final value fee", &Fees::finalValue},
+     {"total_fees", "Total fees", &Fees::total},
+     {"payment_fee", "Payment fee", &Fees::payment},
+     {"net", "Net", &Fees::net}}};
 
 /// The boxes of the three tabs as the window would show them, and the text of the older payment service.
 struct ShownBoxes {
@@ -44,7 +79,8 @@ class Pricer {
   void recalculate(const Listing& listing, ShownBoxes& boxes);
 
   /// The fees of a listing whose entries are complete. Throws AmountError for a text that is no amount or too
-  /// large a one, and PricingError for a payment that the service does not take.
+  /// large a one, and PricingError for an entry that is missing, a payment that the service does not take,
+  /// and entries from which too large an amount results.
   Fees price(const Listing& listing);
 
   [[nodiscard]] const NumberLocale& locale() const { return m_locale; }
@@ -52,10 +88,16 @@ class Pricer {
   [[nodiscard]] static std::string currencyOf(const Listing& listing);
 
  private:
-  void recalculateBillpoint(const Listing& listing, std::string& fee);
+  SingleItemFigures recalculateSingle(const Listing& listing, SingleItemBoxes& boxes);
+  MultipleItemsFigures recalculateMultiple(const Listing& listing, MultipleItemsBoxes& boxes);
+  void recalculatePayPal(const Listing& listing, PaymentBoxes& boxes);
+  PaymentFee billpoint(const Listing& listing);
+  Fees feesOf(const Listing& listing);
   Fees singleFees(const Listing& listing);
   Fees multipleFees(const Listing& listing);
   Fees paymentFees(const Listing& listing);
+  std::string payPalFee(const Listing& listing);
+  std::string billpointFee(const Listing& listing);
   [[nodiscard]] Currency number(const std::string& text) const;
 
   NumberLocale m_locale;

@@ -11,13 +11,12 @@
 
 enum class FigureUnit : std::uint8_t { Amount, Bound, Rate, ExchangeRate };
 
-/// What a nought in the schedule means, and so whether a site's answer has a row for it.
+/// What a nought in the schedule means.
 enum class FigureZero : std::uint8_t {
   Free,               ///< offered, and costs nothing
-  NoRule,             ///< the site has no such rule
-  FreeBesideReserve,  ///< free on a site that has reserves
-  OnlyOnEBayCom,      ///< whatever the figure, it is offered on eBay.com alone
-  NeverAsked          ///< no listing leads to it, on any site
+  Absent,             ///< the site has nothing of the kind
+  FreeBesideReserve,  ///< free on a site that has reserves, absent on others
+  NeverAsked          ///< no listing leads to the figure, on any site, whatever it is
 };
 
 struct FigureName {

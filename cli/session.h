@@ -1,11 +1,16 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <iosfwd>
 #include <string>
 
 #include "listing.h"
 #include "table.h"
+
+// Their header is by far the largest here: only who adds or reads options pays for it.
+namespace CLI {
+class App;
+class Option;
+}  // namespace CLI
 
 /// How a command ended, as the process says it.
 enum ExitStatus : int { AllGood = 0, SomeFailed = 1, WrongUse = 2 };
@@ -24,6 +29,12 @@ struct Session {
 
   void write(const Table& table) { ::write(out, table, format, decimalSign()); }
 };
+
+/// Lets an option take one of a few values, "text|csv|json", in any case; they stand in its help.
+void takesOneOf(CLI::Option* option, const std::string& values);
+
+/// Adds --decimal to a command.
+void addDecimalOption(CLI::App& command, Session& session);
 
 /// Adds --format and --decimal to a command.
 void addOutputOptions(CLI::App& command, Session& session);

@@ -3,12 +3,15 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <CLI/CLI.hpp>
 #include <memory>
 #include <ostream>
 
 #include "amount_text.h"
 #include "option_values.h"
 #include "price_function_options.h"
+#include "price_function_table.h"
+#include "quoted_text.h"
 #include "solve.h"
 
 namespace {
@@ -26,16 +29,18 @@ struct SolveOptions {
 std::int64_t marginOf(const std::string& text, const Session& session) {
   std::string number = text;
   if (!number.empty() && number.back() == '%') number.pop_back();
-  const Option option{.name = "margin",
+  const Option option{.name = "--margin",
                       .kind = OptionKind::Rate,
                       .scope = ForSingle,
                       .values = {},
                       .help = {},
                       .set = nullptr};
-  if (number.empty()) throw OptionError("margin: \"" + text + "\" is no number");
-  checkValue(option, number, session.locale(), true);
-  const std::int64_t units = toCurrency(number, session.locale()).tenThousandths();
-  if (units > Target::wholePrice) throw OptionError("margin: \"" + text + "\" is more than the whole price");
+  if (number.empty()) throw OptionError("--margin: " + quotedText(text) + " is no number");
+  const std::int64_t units =
+      toCurrency(readValue(option, number, session.locale(), !session.decimal.empty()), session.locale())
+          .tenThousandths();
+  if (units > Target::wholePrice)
+    throw OptionError("--margin: " + quotedText(text) + " is more than the whole price");
   return units;
 }
 
@@ -47,8 +52,9 @@ Target targetOf(const SolveOptions& options, const Session& session) {
   if (!options.net.empty() && hasCosts)
     throw OptionError("--cost and --shipping count with --profit and --margin, not with --net");
   Target target;
-  target.fixed = amountOf("net", options.net, session) + amountOf("profit", options.profit, session) +
-                 amountOf("cost", options.cost, session) + amountOf("shipping", options.shipping, session);
+  target.fixed = amountOf("--net", options.net, session) + amountOf("--profit", options.profit, session) +
+                 amountOf("--cost", options.cost, session) +
+                 amountOf("--shipping", options.shipping, session);
   if (!options.margin.empty()) target.margin = marginOf(options.margin, session);
   return target;
 }
@@ -60,51 +66,36 @@ std::string described(const SolveOptions& options, const Target& target, const P
     return priced(sale, amountOf(option, text, session));
   };
   if (!options.net.empty()) return "a net of " + priced(sale, target.fixed);
-  std::string text = options.margin.empty() ? "a profit of " + amount("profit", options.profit)
+  std::string text = options.margin.empty() ? "a profit of " + amount("--profit", options.profit)
                                             : "a margin of " + options.margin;
   if (!options.margin.empty() && text.back() != '%') text += '%';
-  if (!options.cost.empty()) text += " after a cost of " + amount("cost", options.cost);
+  if (!options.cost.empty()) text += " after a cost of " + amount("--cost", options.cost);
   if (!options.shipping.empty())
-    text +=
-        (options.cost.empty() ? " after " : " and ") + amount("shipping", options.shipping) + " for shipping";
+    text += (options.cost.empty() ? " after " : " and ") + amount("--shipping", options.shipping) +
+            " for shipping";
   return text;
 }
 
 std::vector<std::string> rowOf(const char* role, const SaleResult& result, const PriceFunction& sale,
-                               const Target& target) {
-  const auto number = [&sale](Cents amount) { return textOf(amount, sale.locale()); };
+                               const Target& target, Format format) {
   const Cents needed = target.neededAt(result.price);
-  const bool isPaid = sale.sale().payment != PaymentService::None;
-  return {role,
-          number(result.price),
-          number(result.listingFees),
-          isPaid ? number(result.paymentFee) : std::string(),
-          number(result.net),
-          number(needed),
-          number(result.net - needed),
-          Pricer::currencyOf(sale.sale().listing)};
+  std::vector<std::string> row{role};
+  appendResult(row, result, sale, format);
+  row.push_back(textOf(needed, sale.locale()));
+  row.push_back(textOf(result.net - needed, sale.locale()));
+  row.push_back(Pricer::currencyOf(sale.sale().listing));
+  return row;
 }
 
-Table proofOf(const Solution& solution, const PriceFunction& sale, const Target& target) {
-  Table table{.title = {},
-              .columns = {{"price_is", ""},
-                          {"price", "Price", true},
-                          {"total_fees", "eBay fees", true},
-                          {"payment_fee", "Payment fee", true},
-                          {"net", "Net", true},
-                          {"needed", "Needed", true},
-                          {"difference", "Difference", true},
-                          {"currency", "Currency"}},
-              .rows = {}};
-  table.rows.push_back(rowOf("lowest", solution.answer, sale, target));
-  if (solution.below) table.rows.push_back(rowOf("one cent less", *solution.below, sale, target));
+Table proofOf(const Solution& solution, const PriceFunction& sale, const Target& target, Format format) {
+  Table table{.title = {}, .columns = {{"price_is", ""}}, .rows = {}};
+  appendResultColumns(table.columns, sale, format);
+  table.columns.push_back({"needed", "Needed", true});
+  table.columns.push_back({"difference", "Difference", true});
+  table.columns.push_back({"currency", "Currency"});
+  table.rows.push_back(rowOf("lowest", solution.answer, sale, target, format));
+  if (solution.below) table.rows.push_back(rowOf("one cent less", *solution.below, sale, target, format));
   return table;
-}
-
-void dropPaymentFee(Table& table) {
-  constexpr std::ptrdiff_t paymentFee = 3;
-  table.columns.erase(table.columns.begin() + paymentFee);
-  for (auto& row : table.rows) row.erase(row.begin() + paymentFee);
 }
 
 std::string conclusionOf(const Solution& solution, const PriceFunction& sale, const Target& target) {
@@ -114,29 +105,21 @@ std::string conclusionOf(const Solution& solution, const PriceFunction& sale, co
 }
 
 void reportNoPrice(const PriceFunction& sale, const std::string& target, Session& session) {
-  const PriceRange range = sale.range();
   session.status = SomeFailed;
-  session.errors << "tessaloom-fees: ";
-  const char* limit = sale.isLimitedByPayment() ? ", the largest that eBay Payments takes," : "";
-  if (range.first > range.last) {
-    session.errors << fmt::format("it cannot sell for {} or less{} at all\n",
-                                  priced(sale, std::max<Cents>(range.last, 0)), limit);
-  } else {
-    session.errors << fmt::format("no price up to {}{} brings {}\n", priced(sale, range.last), limit, target);
-  }
+  session.errors << fmt::format("tessaloom-fees: no price up to {}, brings {}\n", largestOf(sale), target);
 }
 
 void run(const SolveOptions& options, Session& session) {
   const Target target = targetOf(options, session);
   PriceFunction sale(options.sale.sale(session), session.locale());
+  checkSells(sale);
   const std::string words = described(options, target, sale, session);
   const auto solution = solve(sale, target);
   if (!solution) return reportNoPrice(sale, words, session);
-  Table proof = proofOf(*solution, sale, target);
+  Table proof = proofOf(*solution, sale, target, session.format);
   if (session.format != Format::Text) return session.write(proof);
   proof.title =
       fmt::format("{} is the lowest price that brings {}.", priced(sale, solution->answer.price), words);
-  if (sale.sale().payment == PaymentService::None) dropPaymentFee(proof);
   session.write(proof);
   session.out << '\n' << conclusionOf(*solution, sale, target) << '\n';
 }

@@ -71,7 +71,9 @@ void writeCsv(std::ostream& out, const Table& table, char decimal) {
   out << text;
 }
 
-nlohmann::ordered_json valueOf(std::string cell, bool isNumber) {
+nlohmann::ordered_json valueOf(std::string cell, const Column& column) {
+  if (column.isFlag) return cell == "1";
+  const bool isNumber = column.isNumber;
   if (isNumber) std::replace(cell.begin(), cell.end(), ',', '.');
   double number = 0.0;
   const char* end = cell.data() + cell.size();
@@ -88,7 +90,7 @@ void writeJson(std::ostream& out, const Table& table) {
   for (const auto& row : table.rows) {
     nlohmann::ordered_json object = nlohmann::ordered_json::object();
     for (std::size_t at = 0; at < table.columns.size(); ++at)
-      object[table.columns[at].key] = valueOf(row[at], table.columns[at].isNumber);
+      object[table.columns[at].key] = valueOf(row[at], table.columns[at]);
     array.push_back(std::move(object));
   }
   out << array.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';

@@ -13,6 +13,7 @@ struct Column {
   std::string key;
   std::string heading;
   bool isNumber = false;
+  bool isFlag = false;  ///< "1" or "0"
 };
 
 /// What a command answers. Numbers are texts with a point or a comma as decimal sign and without group signs.

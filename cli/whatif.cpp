@@ -1,7 +1,6 @@
 #include "whatif.h"
 
 #include <algorithm>
-#include <array>
 
 #include "amount_text.h"
 #include "option_values.h"
@@ -71,30 +70,28 @@ class RisingSale {
     const Fees fees = pricer.price(listing);
     m_net = number(fees.net);
     m_total = number(fees.total);
-    m_opening = number(listing.opening);
-    m_price = std::max(m_opening, number(listing.closing));
-    m_sold = fees.finalValue.empty() ? 0 : 1;
-    if (listing.kind != ListingKind::Multiple) return;
-    const std::int16_t offered = toInteger16(listing.offered, pricer.locale());
-    m_sold = std::min(toInteger16(listing.sold, pricer.locale()), offered);
+    m_sold = fees.sold.count;
+    m_price = number(fees.sold.price);
     // With items left over every winner pays the opening price, so it is that price which has to rise.
-    m_raisesOpening = m_sold < offered;
-    if (m_raisesOpening) m_price = m_opening;
+    if (m_sold < fees.sold.offered) m_raised = RaisedPrice::Opening;
   }
 
-  [[nodiscard]] WhatIf with(const Listing& changed, const Candidate& candidate) const {
+  [[nodiscard]] bool isSold() const { return m_sold > 0; }
+  [[nodiscard]] RaisedPrice raised() const { return m_raised; }
+
+  [[nodiscard]] AddedFeature with(const Listing& changed, const Candidate& candidate) const {
     const Currency total = number(m_pricer.price(changed).total);
     return {.feature = candidate.option,
             .value = candidate.value == "1" && candidate.option != "pictures" ? "" : candidate.value,
-            .added = Currency::fromTenThousandths(total.tenThousandths() - m_total.tenThousandths()),
-            .paying = m_sold > 0 ? payingPrice(changed) : std::nullopt};
+            .added = total - m_total,
+            .paying = isSold() ? payingPrice(changed) : std::nullopt};
   }
 
  private:
   // No fee falls as the price rises, so no rise pays that brings less than the net lacks at first; from there
   // every cent is tried, because fees jump.
   [[nodiscard]] std::optional<PayingPrice> payingPrice(const Listing& changed) const {
-    const std::int64_t lacking = m_net.tenThousandths() - netAt(changed, 0).tenThousandths();
+    const std::int64_t lacking = (m_net - netAt(changed, 0)).tenThousandths();
     std::int64_t rise = lacking <= 0 ? 0 : (lacking / m_sold + kCent - 1) / kCent * kCent;
     for (; rise <= highestRise.tenThousandths(); rise += kCent) {
       const Currency net = netAt(changed, rise);
@@ -114,7 +111,7 @@ class RisingSale {
   [[nodiscard]] Currency netAt(Listing listing, std::int64_t rise) const {
     if (rise > 0) {
       listing.closing = plainText(priceAt(rise), m_pricer.locale());
-      if (m_raisesOpening) listing.opening = listing.closing;
+      if (m_raised == RaisedPrice::Opening) listing.opening = listing.closing;
     }
     return number(m_pricer.price(listing).net);
   }
@@ -126,19 +123,19 @@ class RisingSale {
   Pricer& m_pricer;
   Currency m_net;
   Currency m_total;
-  Currency m_opening;
   Currency m_price;
-  std::int64_t m_sold = 0;
-  bool m_raisesOpening = false;
+  int m_sold = 0;
+  RaisedPrice m_raised = RaisedPrice::Closing;
 };
 
 }  // namespace
 
-std::vector<WhatIf> whatIf(Pricer& pricer, const Listing& listing) {
+WhatIf whatIf(Pricer& pricer, const Listing& listing) {
   const RisingSale sale(pricer, listing);
-  std::vector<WhatIf> all;
+  WhatIf answer{.isSold = sale.isSold(), .raised = sale.raised(), .features = {}};
   for (const Candidate& candidate : kCandidates) {
-    if (const auto changed = withFeature(listing, candidate)) all.push_back(sale.with(*changed, candidate));
+    if (const auto changed = withFeature(listing, candidate))
+      answer.features.push_back(sale.with(*changed, candidate));
   }
-  return all;
+  return answer;
 }

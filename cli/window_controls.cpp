@@ -4,8 +4,10 @@
 
 namespace {
 
-/// The index of a list of the window; a list that has no such index keeps its own.
+/// The index of a list of the window, -1 for none of its entries. Entries that a list does not have are not
+/// refused: they charge nothing.
 int listIndex(std::string_view text) {
+  if (text == "-1") return -1;
   int index = 0;
   for (const char digit : text) {
     constexpr int longest = 1000;
@@ -29,70 +31,81 @@ void index(Listing& listing, std::string_view value) {
 
 using Single = SingleItemChoices;
 using Multiple = MultipleItemsChoices;
+using Payment = PaymentChoices;
+using Billpoint = BillpointChoices;
 
 // clang-format off
+// Named once, a control cannot set another's member.
+// NOLINTNEXTLINE(cppcoreguidelines-macro-usage): nothing else makes a text of a name
+#define STATE(scope, Choices, name) {#name, OptionKind::Flag, scope, state<&Choices::name>}
+// NOLINTNEXTLINE(cppcoreguidelines-macro-usage): nothing else makes a text of a name
+#define INDEX(scope, Choices, name) {#name, OptionKind::Choice, scope, index<&Choices::name>}
+
 constexpr auto kControls = std::to_array<WindowControl>({
-    {"site", ForAll, index<&Listing::site>},
-    {"txtStartingPrice", ForSingle, setText<&Listing::opening>},
-    {"txtPrice", ForSingle, setText<&Listing::closing>},
-    {"chkDidNotSell", ForSingle, state<&Single::chkDidNotSell>},
-    {"cboIsReserve", ForSingle, index<&Single::cboIsReserve>},
-    {"chkRealEstate", ForSingle, state<&Single::chkRealEstate>},
-    {"optTimeshare", ForSingle, state<&Single::optTimeshare>},
-    {"cboRealEstateType", ForSingle, index<&Single::cboRealEstateType>},
-    {"chkMotors", ForSingle, state<&Single::chkMotors>},
-    {"chkVehicle", ForSingle, state<&Single::chkVehicle>},
-    {"optMotorcycle", ForSingle, state<&Single::optMotorcycle>},
-    {"chkSubTitleSingleItem", ForSingle, state<&Single::chkSubTitleSingleItem>},
-    {"chkListingDesigner", ForSingle, state<&Single::chkListingDesigner>},
-    {"chkScheduled", ForSingle, state<&Single::chkScheduled>},
-    {"chkSlideshow", ForSingle, state<&Single::chkSlideshow>},
-    {"chkSupersizePhotos", ForSingle, state<&Single::chkSupersizePhotos>},
-    {"cboExtraPhotos", ForSingle, index<&Single::cboExtraPhotos>},
-    {"chkExtraPhotos", ForSingle, state<&Single::chkExtraPhotos>},
-    {"chkBIN", ForSingle, state<&Single::chkBIN>},
-    {"chkTenDayAuction", ForSingle, state<&Single::chkTenDayAuction>},
-    {"chkTwoCategories", ForSingle, state<&Single::chkTwoCategories>},
-    {"chkFeaturedCategory", ForSingle, state<&Single::chkFeaturedCategory>},
-    {"chkFeatured", ForSingle, state<&Single::chkFeatured>},
-    {"chkGallery", ForSingle, state<&Single::chkGallery>},
-    {"chkGalleryFeatured", ForSingle, state<&Single::chkGalleryFeatured>},
-    {"chkHighlighted", ForSingle, state<&Single::chkHighlighted>},
-    {"chkBold", ForSingle, state<&Single::chkBold>},
-    {"chkGiftIcon", ForSingle, state<&Single::chkGiftIcon>},
-    {"txtDutchItemsOffered", ForMultiple, setText<&Listing::offered>},
-    {"txtDutchOpeningPrice", ForMultiple, setText<&Listing::opening>},
-    {"txtDutchItemsSold", ForMultiple, setText<&Listing::sold>},
-    {"txtDutchFinalPrice", ForMultiple, setText<&Listing::closing>},
-    {"chkEBayMotorsDutch", ForMultiple, state<&Multiple::chkEBayMotorsDutch>},
-    {"chkDutchSubtitle", ForMultiple, state<&Multiple::chkDutchSubtitle>},
-    {"chkDutchTwoCategories", ForMultiple, state<&Multiple::chkDutchTwoCategories>},
-    {"chkDutchListingDesigner", ForMultiple, state<&Multiple::chkDutchListingDesigner>},
-    {"chkDutchScheduled", ForMultiple, state<&Multiple::chkDutchScheduled>},
-    {"chkExtraPicturesDutch", ForMultiple, state<&Multiple::chkExtraPicturesDutch>},
-    {"cboExtraPicturesDutch", ForMultiple, index<&Multiple::cboExtraPicturesDutch>},
-    {"chkSupersizeDutch", ForMultiple, state<&Multiple::chkSupersizeDutch>},
-    {"chkSlideshowDutch", ForMultiple, state<&Multiple::chkSlideshowDutch>},
-    {"chkDutchTenDayAuction", ForMultiple, state<&Multiple::chkDutchTenDayAuction>},
-    {"chkDutchGreatGift", ForMultiple, state<&Multiple::chkDutchGreatGift>},
-    {"chkDutchBold", ForMultiple, state<&Multiple::chkDutchBold>},
-    {"chkDutchHighlight", ForMultiple, state<&Multiple::chkDutchHighlight>},
-    {"chkDutchGalleryFeatured", ForMultiple, state<&Multiple::chkDutchGalleryFeatured>},
-    {"chkDutchGallery", ForMultiple, state<&Multiple::chkDutchGallery>},
-    {"chkDutchHomePageFeatured", ForMultiple, state<&Multiple::chkDutchHomePageFeatured>},
-    {"chkDutchFeaturedPlus", ForMultiple, state<&Multiple::chkDutchFeaturedPlus>},
-    {"txtPaymentAmount", ForPayment, setText<&Listing::amount>},
-    {"txtConversion", ForPayment, setText<&PaymentChoices::txtConversion>},
-    {"optPayPalMerchant", ForPayment, state<&PaymentChoices::optPayPalMerchant>},
-    {"optPayPalCreditCard", ForPayment, state<&PaymentChoices::optPayPalCreditCard>},
-    {"chkInternationalPayPal", ForPayment, state<&PaymentChoices::chkInternationalPayPal>},
-    {"Amount", ForBillpoint, setText<&Listing::amount>},
-    {"RateText", ForBillpoint, setText<&PaymentChoices::txtConversion>},
-    {"IsDiscounted", ForBillpoint, state<&BillpointChoices::IsDiscounted>},
-    {"IsCreditCard", ForBillpoint, state<&BillpointChoices::IsCreditCard>},
-    {"IsInternational", ForBillpoint, state<&BillpointChoices::IsInternational>},
+    INDEX(ForAll, Listing, site),
+    {"txtStartingPrice", OptionKind::Amount, ForSingle, setText<&Listing::opening>},
+    {"txtPrice", OptionKind::Amount, ForSingle, setText<&Listing::closing>},
+    STATE(ForSingle, Single, chkDidNotSell),
+    INDEX(ForSingle, Single, cboIsReserve),
+    STATE(ForSingle, Single, chkRealEstate),
+    STATE(ForSingle, Single, optTimeshare),
+    INDEX(ForSingle, Single, cboRealEstateType),
+    STATE(ForSingle, Single, chkMotors),
+    STATE(ForSingle, Single, chkVehicle),
+    STATE(ForSingle, Single, optMotorcycle),
+    STATE(ForSingle, Single, chkSubTitleSingleItem),
+    STATE(ForSingle, Single, chkListingDesigner),
+    STATE(ForSingle, Single, chkScheduled),
+    STATE(ForSingle, Single, chkSlideshow),
+    STATE(ForSingle, Single, chkSupersizePhotos),
+    INDEX(ForSingle, Single, cboExtraPhotos),
+    STATE(ForSingle, Single, chkExtraPhotos),
+    STATE(ForSingle, Single, chkBIN),
+    STATE(ForSingle, Single, chkTenDayAuction),
+    STATE(ForSingle, Single, chkTwoCategories),
+    STATE(ForSingle, Single, chkFeaturedCategory),
+    STATE(ForSingle, Single, chkFeatured),
+    STATE(ForSingle, Single, chkGallery),
+    STATE(ForSingle, Single, chkGalleryFeatured),
+    STATE(ForSingle, Single, chkHighlighted),
+    STATE(ForSingle, Single, chkBold),
+    STATE(ForSingle, Single, chkGiftIcon),
+    {"txtDutchItemsOffered", OptionKind::Count, ForMultiple, setText<&Listing::offered>},
+    {"txtDutchOpeningPrice", OptionKind::Amount, ForMultiple, setText<&Listing::opening>},
+    {"txtDutchItemsSold", OptionKind::Count, ForMultiple, setText<&Listing::sold>},
+    {"txtDutchFinalPrice", OptionKind::Amount, ForMultiple, setText<&Listing::closing>},
+    STATE(ForMultiple, Multiple, chkEBayMotorsDutch),
+    STATE(ForMultiple, Multiple, chkDutchSubtitle),
+    STATE(ForMultiple, Multiple, chkDutchTwoCategories),
+    STATE(ForMultiple, Multiple, chkDutchListingDesigner),
+    STATE(ForMultiple, Multiple, chkDutchScheduled),
+    STATE(ForMultiple, Multiple, chkExtraPicturesDutch),
+    INDEX(ForMultiple, Multiple, cboExtraPicturesDutch),
+    STATE(ForMultiple, Multiple, chkSupersizeDutch),
+    STATE(ForMultiple, Multiple, chkSlideshowDutch),
+    STATE(ForMultiple, Multiple, chkDutchTenDayAuction),
+    STATE(ForMultiple, Multiple, chkDutchGreatGift),
+    STATE(ForMultiple, Multiple, chkDutchBold),
+    STATE(ForMultiple, Multiple, chkDutchHighlight),
+    STATE(ForMultiple, Multiple, chkDutchGalleryFeatured),
+    STATE(ForMultiple, Multiple, chkDutchGallery),
+    STATE(ForMultiple, Multiple, chkDutchHomePageFeatured),
+    STATE(ForMultiple, Multiple, chkDutchFeaturedPlus),
+    {"txtPaymentAmount", OptionKind::Amount, ForPayment, setText<&Listing::amount>},
+    {"txtConversion", OptionKind::Rate, ForPayment, setText<&Payment::txtConversion>},
+    STATE(ForPayment, Payment, optPayPalMerchant),
+    STATE(ForPayment, Payment, optPayPalCreditCard),
+    STATE(ForPayment, Payment, chkInternationalPayPal),
+    {"Amount", OptionKind::Amount, ForBillpoint, setText<&Listing::amount>},
+    {"RateText", OptionKind::Rate, ForBillpoint, setText<&Payment::txtConversion>},
+    STATE(ForBillpoint, Billpoint, IsDiscounted),
+    STATE(ForBillpoint, Billpoint, IsCreditCard),
+    STATE(ForBillpoint, Billpoint, IsInternational),
 });
 // clang-format on
+
+#undef STATE
+#undef INDEX
 
 }  // namespace
 

@@ -4,16 +4,6 @@
 
 #include "amount_text.h"
 
-namespace {
-
-constexpr int kPicturePackChoice = 5;
-
-const FeeCell& cellOf(Figure figure, std::int32_t site) {
-  return kFeeSchedule[static_cast<std::size_t>(figure)].sites[static_cast<std::size_t>(site - 1)];
-}
-
-}  // namespace
-
 std::string_view CAuctionSite::CurrencyString() const {
   constexpr std::array<std::string_view, kSiteCount> currencies{"$", "GBP", "C$", "EUR"};
   return isKnown() ? currencies[static_cast<std::size_t>(m_site - 1)] : std::string_view{};
@@ -111,8 +101,8 @@ float CAuctionSite::BINFee(bool IsVehicle, bool /*IsMotorcycle*/) const {
 
 float CAuctionSite::PhotosFee(bool HasExtraPhotos, int PhotoChoice, bool IsSupersize, bool IsSlideshow,
                               bool /*IsVehicle*/) const {
-  const bool isPack = PhotoChoice == kPicturePackChoice;
-  const int photos = PhotoChoice >= 0 && PhotoChoice < kPicturePackChoice ? PhotoChoice + 1 : 0;
+  const bool isPack = PhotoChoice == picturePackChoice;
+  const int photos = PhotoChoice >= 0 && PhotoChoice < picturePackChoice ? PhotoChoice + 1 : 0;
   float total = 0.0F;
   if (HasExtraPhotos) {
     total =
@@ -139,7 +129,7 @@ float CAuctionSite::ScheduledListingFee(bool IsVehicle) const {
 }
 
 float CAuctionSite::GalleryFee(bool IsVehicle, bool HasExtraPhotos, int PhotoChoice) const {
-  if (HasExtraPhotos && PhotoChoice == kPicturePackChoice) return 0.0F;
+  if (HasExtraPhotos && PhotoChoice == picturePackChoice) return 0.0F;
   return amount(IsVehicle ? Figure::GalleryVehicle : Figure::GalleryOther);
 }
 

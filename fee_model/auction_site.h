@@ -15,6 +15,7 @@
 /// The numbers stand in fee_schedule.cpp; here stands which of them a choice of the listing takes.
 class CAuctionSite {
  public:
+  static constexpr int picturePackChoice = 5;  ///< of `PhotoChoice`
   enum KnownSite : std::int32_t { eBayUS = 1, eBayUK = 2, eBayCanada = 3, eBayGermany = 4 };
 
   void Site(std::int32_t site) { m_site = site; }

@@ -121,3 +121,8 @@ constexpr std::size_t kFigureCount = static_cast<std::size_t>(Figure::Count);
 
 /// The built-in schedule, one row per figure, in the order of `Figure`.
 extern const std::array<FeeRow, kFigureCount> kFeeSchedule;
+
+/// A site's value of a figure. `site` is 1 to 4, in the order of the columns.
+[[nodiscard]] inline const FeeCell& cellOf(Figure figure, std::int32_t site) {
+  return kFeeSchedule[static_cast<std::size_t>(figure)].sites[static_cast<std::size_t>(site - 1)];
+}

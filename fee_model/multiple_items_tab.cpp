@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <utility>
 
 #include "amount_errors.h"
 #include "amount_text.h"
@@ -23,7 +24,7 @@ class MultipleItemsRecalculation {
         m_notAvailable(notAvailable),
         m_boxes(boxes) {}
 
-  void run() {
+  MultipleItemsFigures run() {
     FillDutchFinalPrice();
     if (isComplete() && m_calculators.site != nullptr && m_calculators.auction != nullptr) {
       ValidateDutchTextEntries();
@@ -33,6 +34,7 @@ class MultipleItemsRecalculation {
       DutchCommission();
     }
     formatPrices();
+    return std::move(m_figures);
   }
 
  private:
@@ -42,14 +44,16 @@ class MultipleItemsRecalculation {
     if (!isFilled(m_boxes.txtDutchItemsOffered) || !isFilled(m_boxes.txtDutchItemsSold)) return;
     const bool hasOpeningPrice = isFilled(m_boxes.txtDutchOpeningPrice);
     if (!hasOpeningPrice && !isNumeric(m_boxes.txtDutchItemsOffered, m_locale)) return;
-    m_offered = toInteger16(m_boxes.txtDutchItemsOffered, m_locale);
-    m_sold = toInteger16(m_boxes.txtDutchItemsSold, m_locale);
-    if (m_sold < m_offered && hasOpeningPrice) m_boxes.txtDutchFinalPrice = m_boxes.txtDutchOpeningPrice;
-    if (m_sold > m_offered) {
+    m_figures.offered = toInteger16(m_boxes.txtDutchItemsOffered, m_locale);
+    m_figures.sold = toInteger16(m_boxes.txtDutchItemsSold, m_locale);
+    if (hasItemsLeft() && hasOpeningPrice) m_boxes.txtDutchFinalPrice = m_boxes.txtDutchOpeningPrice;
+    if (m_figures.sold > m_figures.offered) {
       m_boxes.txtDutchItemsSold = m_boxes.txtDutchItemsOffered;
-      m_sold = m_offered;
+      m_figures.sold = m_figures.offered;
     }
   }
+
+  [[nodiscard]] bool hasItemsLeft() const { return m_figures.sold < m_figures.offered; }
 
   [[nodiscard]] bool isComplete() const {
     return isFilled(m_boxes.txtDutchItemsOffered) && isFilled(m_boxes.txtDutchOpeningPrice) &&
@@ -57,44 +61,52 @@ class MultipleItemsRecalculation {
   }
 
   void ValidateDutchTextEntries() {
-    const bool isTooLow = number(m_boxes.txtDutchFinalPrice) < number(m_boxes.txtDutchOpeningPrice);
-    if (m_sold < m_offered || isTooLow) m_boxes.txtDutchFinalPrice = m_boxes.txtDutchOpeningPrice;
+    m_lowestBid = number(m_boxes.txtDutchFinalPrice);
+    m_opening = number(m_boxes.txtDutchOpeningPrice);
+    m_figures.isAtOpening = hasItemsLeft() || m_lowestBid < m_opening;
+    if (m_figures.isAtOpening) {
+      m_boxes.txtDutchFinalPrice = m_boxes.txtDutchOpeningPrice;
+      m_lowestBid = m_opening;
+    }
+    m_figures.price = m_boxes.txtDutchFinalPrice;
     std::array<char, 8> digits;
-    const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), m_sold);
+    const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), m_figures.sold);
     m_boxes.txtDutchItemsSold.assign(digits.data(), written.ptr);
   }
 
   void DutchInsertionFee() {
-    const std::string price = plainText(number(m_boxes.txtDutchOpeningPrice), m_locale);
+    const std::string price = plainText(m_opening, m_locale);
     std::string fee;
     try {
-      fee = m_calculators.auction->InsertionFee(price, m_offered, m_choices.chkDutchTwoCategories);
+      fee = m_calculators.auction->InsertionFee(price, m_figures.offered, m_choices.chkDutchTwoCategories);
     } catch (const ConversionError&) {
       // On no step of the ladder there is no fee that could be doubled.
     }
     m_boxes.txtDutchFees = fee.empty() ? "0" : fee;
+    m_figures.insertion = number(m_boxes.txtDutchFees);
   }
 
   void DutchExtraFeatures() {
-    const float extras = dutchExtraFeatures(m_choices, *m_calculators.site, m_offered);
+    const float extras = dutchExtraFeatures(m_choices, *m_calculators.site, m_figures.offered);
     m_boxes.txtExtraFeaturesDutch = twoDecimals(extras, m_locale);
-    const Currency fees = number(m_boxes.txtDutchFees) + Currency::fromNumber(static_cast<double>(extras));
+    const Currency fees = m_figures.insertion + Currency::fromNumber(static_cast<double>(extras));
     m_boxes.txtDutchFees = twoDecimals(fees, m_locale);
   }
 
   void CalcTotalDutchSales() {
-    const double lowestBid = number(m_boxes.txtDutchFinalPrice).toDouble();
-    m_boxes.txtTotalDutchAuctionSales = plainText(lowestBid * static_cast<double>(m_sold), m_locale);
+    m_boxes.txtTotalDutchAuctionSales =
+        plainText(m_lowestBid.toDouble() * static_cast<double>(m_figures.sold), m_locale);
   }
 
   void DutchCommission() {
-    const Currency commission =
+    m_figures.finalValue =
         number(m_calculators.auction->FVF(m_boxes.txtDutchFinalPrice, m_boxes.txtDutchItemsSold));
-    const Currency fees = number(m_boxes.txtDutchFees) + commission;
-    m_boxes.txtDutchFees = twoDecimals(fees, m_locale);
-    m_boxes.txtDutchCostPerItem = m_sold != 0
-                                      ? twoDecimals(fees.toDouble() / static_cast<double>(m_sold), m_locale)
-                                      : std::string(m_notAvailable);
+    m_figures.total = number(m_boxes.txtDutchFees) + m_figures.finalValue;
+    m_boxes.txtDutchFees = twoDecimals(m_figures.total, m_locale);
+    m_boxes.txtDutchCostPerItem =
+        m_figures.sold != 0
+            ? twoDecimals(m_figures.total.toDouble() / static_cast<double>(m_figures.sold), m_locale)
+            : std::string(m_notAvailable);
   }
 
   void formatPrices() {
@@ -116,16 +128,18 @@ class MultipleItemsRecalculation {
   const NumberLocale& m_locale;
   std::string_view m_notAvailable;
   MultipleItemsBoxes& m_boxes;
-  std::int16_t m_offered = 0;  ///< the counts as they are calculated with, once both are filled in
-  std::int16_t m_sold = 0;
+  MultipleItemsFigures m_figures;
+  Currency m_opening;
+  Currency m_lowestBid;  ///< the one that counts
 };
 
 }  // namespace
 
-void recalculateMultipleItems(const MultipleItemsChoices& choices,
-                              const MultipleItemsCalculators& calculators, const NumberLocale& locale,
-                              std::string_view notAvailable, MultipleItemsBoxes& boxes) {
-  MultipleItemsRecalculation(choices, calculators, locale, notAvailable, boxes).run();
+MultipleItemsFigures recalculateMultipleItems(const MultipleItemsChoices& choices,
+                                              const MultipleItemsCalculators& calculators,
+                                              const NumberLocale& locale, std::string_view notAvailable,
+                                              MultipleItemsBoxes& boxes) {
+  return MultipleItemsRecalculation(choices, calculators, locale, notAvailable, boxes).run();
 }
 
 float dutchExtraFeatures(const MultipleItemsChoices& choices, const CAuctionSite& site, int itemsOffered,
@@ -138,14 +152,20 @@ float dutchExtraFeatures(const MultipleItemsChoices& choices, const CAuctionSite
   FeeTotal fees(choices.chkDutchTwoCategories, record);
   if (choices.chkDutchFeaturedPlus)
     fees.addDoubledForTwoCategories(FeaturedPlus, site.FeaturedPlusFee(isMotors, isMultipleItem));
-  if (choices.chkDutchHomePageFeatured) fees.add(HomePageFeatured, site.HomePageFeaturedFee(itemsOffered));
+  if (choices.chkDutchHomePageFeatured) {
+    fees.add(HomePageFeatured, site.HomePageFeaturedFee(itemsOffered),
+             itemsOffered > 1 ? FeeCause::SeveralItems : FeeCause::None);
+  }
   // Unlike a single item, several items pay for the gallery and for being featured in it.
   if (choices.chkDutchGallery) {
     fees.addDoubledForTwoCategories(
-        Gallery, site.GalleryFee(isVehicle, choices.chkExtraPicturesDutch, choices.cboExtraPicturesDutch));
+        Gallery, site.GalleryFee(isVehicle, choices.chkExtraPicturesDutch, choices.cboExtraPicturesDutch),
+        galleryCause(isVehicle, choices.chkExtraPicturesDutch, choices.cboExtraPicturesDutch));
   }
-  if (choices.chkDutchGalleryFeatured)
-    fees.addDoubledForTwoCategories(GalleryFeatured, site.GalleryFeaturedFee(isMotors, isVehicle));
+  if (choices.chkDutchGalleryFeatured) {
+    fees.addDoubledForTwoCategories(GalleryFeatured, site.GalleryFeaturedFee(isMotors, isVehicle),
+                                    galleryFeaturedCause(isMotors, isVehicle));
+  }
   if (choices.chkDutchBold) fees.addDoubledForTwoCategories(Bold, site.BoldFee(isVehicle, isRealEstate));
   if (choices.chkDutchHighlight) fees.addDoubledForTwoCategories(Highlight, site.HighlightFee());
   if (choices.chkDutchGreatGift) fees.addDoubledForTwoCategories(GiftIcon, site.GiftIconFee(isVehicle));

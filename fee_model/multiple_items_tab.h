@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -54,13 +55,25 @@ struct MultipleItemsCalculators {
   const CDutchAuction* auction = nullptr;
 };
 
+/// What the tab settles on its way to the boxes, which do not show all of it. The amounts are of all items.
+struct MultipleItemsFigures {
+  Currency insertion;
+  Currency finalValue;
+  Currency total;
+  std::string price;  ///< the text of what each sold item brings, which its final value fee is taken from
+  bool isAtOpening = false;  ///< that text is the opening price: items were left over, or no bid reached it
+  std::int16_t offered = 0;
+  std::int16_t sold = 0;  ///< at most as many as were offered
+};
+
 /// Recalculates the tab in `boxes`; `notAvailable` is shown as the fee per item where none was sold. Fees are
 /// calculated only when offered, opening price, sold and lowest bid are all filled in. If a text is no
 /// number, an amount too large or a count above 32767, it throws AmountError, and the boxes hold what the
-/// steps before the error had written.
-void recalculateMultipleItems(const MultipleItemsChoices& choices,
-                              const MultipleItemsCalculators& calculators, const NumberLocale& locale,
-                              std::string_view notAvailable, MultipleItemsBoxes& boxes);
+/// steps before the error had written. The figures are complete when fees were calculated.
+MultipleItemsFigures recalculateMultipleItems(const MultipleItemsChoices& choices,
+                                              const MultipleItemsCalculators& calculators,
+                                              const NumberLocale& locale, std::string_view notAvailable,
+                                              MultipleItemsBoxes& boxes);
 
 /// The total of the extra features, in single precision, with every addition noted in `record`.
 /// `itemsOffered` decides the home page's price.

@@ -50,8 +50,9 @@ PaymentFee CPaymentService::Billpoint(std::string_view Amount, bool IsDiscounted
   const auto compared = static_cast<float>(amount);
   if (compared <= site.BillpointThreshold()) {
     fee.text = plainText(fee.flatFee, m_locale);
-  } else if (compared > site.BillpointMax(IsDiscounted, IsCreditCard)) {
+  } else if (const float limit = site.BillpointMax(IsDiscounted, IsCreditCard); compared > limit) {
     fee.text = "N/A";
+    fee.limit = limit;
   } else {
     fee.share = static_cast<double>(IsCreditCard ? site.BillpointCCRate(IsDiscounted)
                                                  : site.BillpointEcheckRate(IsDiscounted));

@@ -18,6 +18,7 @@ struct PaymentFee {
   float flatFee = 0.0F;
   std::optional<float> cap;         ///< what the two were cut to, if they were
   std::optional<double> surcharge;  ///< if there is one
+  std::optional<float> limit;       ///< the largest amount that can be paid so, if this one is above it
 };
 
 /// What a payment service takes from an amount that a seller receives. The percentages of PayPal are the same

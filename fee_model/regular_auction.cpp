@@ -17,6 +17,14 @@ float priceOrZero(std::string_view text, const NumberLocale& locale) {
   return text.empty() ? 0.0F : toSingle(text, locale);
 }
 
+/// The step of a tier that may take a share of the price. Whether it does shows in what it asks for nothing.
+ReserveStep shareStep(int tier, float fee, float feeOfNothing, double share, float reserve) {
+  if (fee <= feeOfNothing) return {.tier = tier, .fee = fee};
+  const bool isCapped = fee < storedAsSingle(static_cast<double>(reserve) * share);
+  return {
+      .tier = tier, .fee = fee, .rule = isCapped ? ReserveRule::Capped : ReserveRule::Share, .share = share};
+}
+
 }  // namespace
 
 LadderStep listingFeeStep(const CAuctionSite& site, float price) {
@@ -73,42 +81,47 @@ float tieredFinalValueFee(const CAuctionSite& site, float bid) { return FinalVal
 ReserveStep reserveStep(const CAuctionSite& site, float reserve, bool IsVehicle, bool IsRealEstateAd) {
   constexpr bool isReducedReserve = false;  // no control offers it
   if (reserve < site.ReserveSecondTierLower())
-    return {1, site.ReserveFirstTier(reserve, IsVehicle, isReducedReserve)};
-  if (reserve < site.ReserveThirdTierLower(IsVehicle, IsRealEstateAd))
-    return {2, site.ReserveSecondTier(reserve, IsVehicle, isReducedReserve)};
-  return {3, site.ReserveThirdTier(reserve, IsVehicle, isReducedReserve)};
+    return {.tier = 1, .fee = site.ReserveFirstTier(reserve, IsVehicle, isReducedReserve)};
+  if (reserve < site.ReserveThirdTierLower(IsVehicle, IsRealEstateAd)) {
+    return shareStep(2, site.ReserveSecondTier(reserve, IsVehicle, isReducedReserve),
+                     site.ReserveSecondTier(0.0F, IsVehicle, isReducedReserve),
+                     site.share(Figure::ReserveSecondTierShare), reserve);
+  }
+  return shareStep(3, site.ReserveThirdTier(reserve, IsVehicle, isReducedReserve),
+                   site.ReserveThirdTier(0.0F, IsVehicle, isReducedReserve),
+                   site.share(Figure::ReserveThirdTierShare), reserve);
 }
 
 float extraFeatures(const ListingFeatures& chosen, const CAuctionSite& site, FeeRecord* record) {
   using enum ExtraFeature;
   constexpr bool isMultipleItem = false;
+  const FeeCause vehicle = chosen.IsVehicle ? FeeCause::Vehicle : FeeCause::None;
   FeeTotal fees(chosen.IsTwoCategories, record);
-  if (chosen.IsFeaturedPlus)
-    fees.addDoubledForTwoCategories(FeaturedPlus, site.FeaturedPlusFee(chosen.IsMotors, isMultipleItem));
+  const auto add = [&fees](ExtraFeature feature, float fee, FeeCause cause = FeeCause::None) {
+    fees.addDoubledForTwoCategories(feature, fee, cause);
+  };
+  if (chosen.IsFeaturedPlus) add(FeaturedPlus, site.FeaturedPlusFee(chosen.IsMotors, isMultipleItem));
   if (chosen.IsHomePageFeatured) fees.add(HomePageFeatured, site.HomePageFeaturedFee(1));
   // Gallery featured includes the gallery.
-  if (chosen.IsGallery && chosen.IsGalleryFeatured) fees.leaveOut(Gallery);
-  if (chosen.IsGallery && !chosen.IsGalleryFeatured) {
-    fees.addDoubledForTwoCategories(
-        Gallery, site.GalleryFee(chosen.IsVehicle, chosen.HasExtraPhotos, chosen.PhotoChoice));
+  if (chosen.IsGallery && chosen.IsGalleryFeatured) {
+    add(Gallery, 0.0F, FeeCause::GalleryFeatured);
+  } else if (chosen.IsGallery) {
+    add(Gallery, site.GalleryFee(chosen.IsVehicle, chosen.HasExtraPhotos, chosen.PhotoChoice),
+        galleryCause(chosen.IsVehicle, chosen.HasExtraPhotos, chosen.PhotoChoice));
   }
   if (chosen.IsGalleryFeatured) {
-    fees.addDoubledForTwoCategories(GalleryFeatured,
-                                    site.GalleryFeaturedFee(chosen.IsMotors, chosen.IsVehicle));
+    add(GalleryFeatured, site.GalleryFeaturedFee(chosen.IsMotors, chosen.IsVehicle),
+        galleryFeaturedCause(chosen.IsMotors, chosen.IsVehicle));
   }
-  if (chosen.IsBold)
-    fees.addDoubledForTwoCategories(Bold, site.BoldFee(chosen.IsVehicle, chosen.IsRealEstateType));
-  if (chosen.IsHighlight) fees.addDoubledForTwoCategories(Highlight, site.HighlightFee());
-  if (chosen.IsGiftIcon) fees.addDoubledForTwoCategories(GiftIcon, site.GiftIconFee(chosen.IsVehicle));
-  if (chosen.IsTenDayAuction)
-    fees.addDoubledForTwoCategories(TenDayAuction, site.TenDayAuctionFee(chosen.IsVehicle));
-  if (chosen.IsBIN)
-    fees.addDoubledForTwoCategories(BuyItNow, site.BINFee(chosen.IsVehicle, chosen.IsMotorcycle));
-  if (chosen.IsScheduled) fees.add(Scheduled, site.ScheduledListingFee(chosen.IsVehicle));
-  if (chosen.IsListingDesigner) fees.addDoubledForTwoCategories(ListingDesigner, site.ListingDesignerFee());
-  if (chosen.IsSubtitle) fees.addDoubledForTwoCategories(Subtitle, site.SubtitleFee());
-  fees.addDoubledForTwoCategories(
-      Pictures, site.PhotosFee(chosen.HasExtraPhotos, chosen.PhotoChoice, chosen.IsSupersize,
+  if (chosen.IsBold) add(Bold, site.BoldFee(chosen.IsVehicle, chosen.IsRealEstateType), vehicle);
+  if (chosen.IsHighlight) add(Highlight, site.HighlightFee());
+  if (chosen.IsGiftIcon) add(GiftIcon, site.GiftIconFee(chosen.IsVehicle), vehicle);
+  if (chosen.IsTenDayAuction) add(TenDayAuction, site.TenDayAuctionFee(chosen.IsVehicle), vehicle);
+  if (chosen.IsBIN) add(BuyItNow, site.BINFee(chosen.IsVehicle, chosen.IsMotorcycle), vehicle);
+  if (chosen.IsScheduled) fees.add(Scheduled, site.ScheduledListingFee(chosen.IsVehicle), vehicle);
+  if (chosen.IsListingDesigner) add(ListingDesigner, site.ListingDesignerFee());
+  if (chosen.IsSubtitle) add(Subtitle, site.SubtitleFee());
+  add(Pictures, site.PhotosFee(chosen.HasExtraPhotos, chosen.PhotoChoice, chosen.IsSupersize,
                                chosen.IsSlideshow, chosen.IsVehicle));
   return fees.total();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -88,10 +89,15 @@ LadderStep listingFeeStep(const CAuctionSite& site, float price);
 /// What the features of a single item add up to, in single precision, with every addition noted in `record`.
 float extraFeatures(const ListingFeatures& chosen, const CAuctionSite& site, FeeRecord* record = nullptr);
 
-/// The reserve fee of one category, and the tier of the schedule that it comes from.
+/// How a reserve fee is made: a flat figure, a share of the price, or the cap that the share would exceed.
+enum class ReserveRule : std::uint8_t { Flat, Share, Capped };
+
+/// The reserve fee of one category, and where in the schedule it comes from.
 struct ReserveStep {
   int tier = 1;  ///< 1 to 3
   float fee = 0.0F;
+  ReserveRule rule = ReserveRule::Flat;
+  double share = 0.0;  ///< a fraction; of no meaning for a flat fee
 };
 ReserveStep reserveStep(const CAuctionSite& site, float reserve, bool IsVehicle, bool IsRealEstateAd);
 

@@ -27,6 +27,12 @@ constexpr std::array<std::int64_t, 18> kPowersOfTen{1,
 
 std::int64_t powerOfTen(int exponent) { return kPowersOfTen[static_cast<std::size_t>(exponent)]; }
 
+/// Whether a number has more digits than that.
+bool isBeyond(std::uint64_t number, int digits) {
+  return static_cast<std::size_t>(digits) < kPowersOfTen.size() &&
+         number >= static_cast<std::uint64_t>(powerOfTen(digits));
+}
+
 /// How many decimals the significant digits of a magnitude reach to; -1 if it is out of the range.
 int decimalsFor(double magnitude, int digits) {
   // These two are the smallest doubles that are not below a tenth and a hundredth.
@@ -41,27 +47,28 @@ int decimalsFor(double magnitude, int digits) {
 }  // namespace
 
 std::optional<ShortAmount> shortAmountOf(std::string_view text, const NumberLocale& locale) {
-  if (locale.decimal != "." && locale.decimal != ",") return std::nullopt;
-  constexpr std::size_t mostDigits = 14;  // so that ten-thousandths of it fit into 64 bits
+  const char decimal = locale.decimal.size() == 1 ? locale.decimal.front() : '\0';
+  if (decimal != '.' && decimal != ',') return std::nullopt;
+  constexpr int mostDigits = 14;  // so that ten-thousandths of it fit into 64 bits
   if (text.starts_with(' ')) text.remove_prefix(1);
   const bool isNegative = text.starts_with('-');
   if (isNegative) text.remove_prefix(1);
   if (text.empty() || text.size() > mostDigits + 1) return std::nullopt;
+  const char* at = text.data();
+  const char* const end = at + text.size();
   ShortAmount amount;
-  std::size_t digits = 0;
-  bool hasSymbol = false;
-  for (const char c : text) {
-    if (c >= '0' && c <= '9') {
-      amount.units = amount.units * 10 + (c - '0');
-      ++digits;
-      if (hasSymbol) ++amount.decimals;
-    } else if (c == locale.decimal.front() && !hasSymbol) {
-      hasSymbol = true;
-    } else {
-      return std::nullopt;
-    }
+  const auto readDigits = [&] {
+    const char* const first = at;
+    for (; at != end && *at >= '0' && *at <= '9'; ++at) amount.units = amount.units * 10 + (*at - '0');
+    return static_cast<int>(at - first);
+  };
+  const int whole = readDigits();
+  if (at != end && *at == decimal) {
+    ++at;
+    amount.decimals = readDigits();
   }
-  if (digits == 0 || digits > mostDigits) return std::nullopt;
+  const int digits = whole + amount.decimals;
+  if (at != end || digits == 0 || digits > mostDigits) return std::nullopt;
   if (isNegative) amount.units = -amount.units;
   return amount;
 }
@@ -105,18 +112,25 @@ double toDouble(ShortAmount amount) {
 }
 
 std::string write(ShortAmount amount, std::string_view lead, std::string_view decimalSymbol) {
-  std::array<char, 24> digits;
+  constexpr std::uint64_t ten = 10;
   auto rest = static_cast<std::uint64_t>(amount.units < 0 ? -amount.units : amount.units);
-  std::size_t at = digits.size();
-  // From the last digit on, until the one before the decimal symbol and all that are not zero stand there.
-  const auto decimals = static_cast<std::size_t>(amount.decimals);
-  while (rest > 0 || digits.size() - at <= decimals) {
-    digits[--at] = static_cast<char>('0' + rest % 10);
-    rest /= 10;
-  }
-  const std::size_t whole = digits.size() - at - decimals;
-  std::string text(amount.units < 0 ? "-" : lead);
-  text.append(digits.data() + at, whole);
-  if (decimals > 0) text.append(decimalSymbol).append(digits.data() + at + whole, decimals);
+  int wholeDigits = 1;
+  while (isBeyond(rest, amount.decimals + wholeDigits)) ++wholeDigits;
+  const std::string_view sign = amount.units < 0 ? "-" : lead;
+  const std::string_view symbol = amount.decimals > 0 ? decimalSymbol : "";
+  // Its length is known: it is filled from its last digit on instead of growing.
+  std::string text(sign.size() + symbol.size() + static_cast<std::size_t>(wholeDigits + amount.decimals),
+                   '0');
+  auto at = text.end();
+  const auto writeSigns = [&](std::string_view signs) {
+    for (std::size_t left = signs.size(); left > 0; --left) *--at = signs[left - 1];
+  };
+  const auto writeDigits = [&](int count) {
+    for (; count > 0; --count, rest /= ten) *--at = static_cast<char>('0' + rest % ten);
+  };
+  writeDigits(amount.decimals);
+  writeSigns(symbol);
+  writeDigits(wholeDigits);
+  writeSigns(sign);
   return text;
 }

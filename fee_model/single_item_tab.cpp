@@ -1,13 +1,13 @@
 #include "single_item_tab.h"
 
+#include <utility>
+
 #include "amount_text.h"
 #include "entry_rules.h"
 
 namespace {
 
 constexpr int kNoReserve = 0;
-constexpr int kReserve = 1;
-constexpr int kThirtyDayAd = 2;
 
 /// A menu command can meet a box in which only the decimal symbol was typed so far: it counts as empty.
 std::string_view priceText(const std::string& box, const NumberLocale& locale) {
@@ -19,6 +19,11 @@ Currency priceOrZero(const std::string& box, const NumberLocale& locale) {
   return text.empty() ? Currency{} : toCurrency(text, locale);
 }
 
+bool isSold(const SingleItemChoices& choices, Currency opening, Currency closing) {
+  if (choices.chkDidNotSell) return false;
+  return !(choices.hasReserve() && closing < opening);
+}
+
 /// One run of the recalculation. The steps stand in the order in which they must run; each reads the boxes
 /// as the steps before left them.
 class SingleItemRecalculation {
@@ -27,7 +32,7 @@ class SingleItemRecalculation {
                           const NumberLocale& locale, SingleItemBoxes& boxes)
       : m_choices(choices), m_calculator(calculator), m_locale(locale), m_boxes(boxes) {}
 
-  void run() {
+  SingleItemFigures run() {
     clearResults();
     readPrices();
     raiseClosingToOpening();
@@ -39,6 +44,7 @@ class SingleItemRecalculation {
     }
     restoreClosingPrice();
     formatPrices();
+    return std::move(m_figures);
   }
 
  private:
@@ -59,6 +65,7 @@ class SingleItemRecalculation {
     if (m_choices.chkDidNotSell || m_choices.cboIsReserve != kNoReserve || m_closing >= m_opening) return;
     m_closing = m_opening;
     m_boxes.txtPrice = plainText(m_closing, m_locale);
+    m_figures.isRaised = true;
   }
 
   void InsertionFee() {
@@ -66,32 +73,38 @@ class SingleItemRecalculation {
         priceText(m_boxes.txtStartingPrice, m_locale), m_choices.chkTwoCategories, m_choices.chkRealEstate,
         m_choices.chkVehicle, m_choices.optMotorcycle, m_choices.optTimeshare, m_choices.cboRealEstateType);
     m_boxes.txtFees = m_boxes.txtInsertionFee;
+    m_figures.insertion = m_figures.total = number(m_boxes.txtInsertionFee);
   }
 
   void DidNotMeetReserve() {
-    if (m_choices.cboIsReserve != kReserve || itemSold(m_choices, m_boxes, m_locale)) return;
+    m_figures.isSold = isSold(m_choices, m_opening, m_closing);
+    if (!m_choices.hasReserve() || m_figures.isSold) return;
     // The reserve fee does not take an empty price; an empty box is a reserve of nothing.
     const std::string_view reserve = priceText(m_boxes.txtStartingPrice, m_locale);
     const Currency fee = number(m_calculator->ReserveFee(
         reserve.empty() ? std::string_view("0") : reserve, m_boxes.txtFees, m_boxes.txtInsertionFee,
-        m_choices.chkTwoCategories, m_choices.chkVehicle, m_choices.cboRealEstateType == kThirtyDayAd));
-    m_boxes.txtInsertionFee = twoDecimals(number(m_boxes.txtInsertionFee) + fee, m_locale);
-    m_boxes.txtFees = twoDecimals(number(m_boxes.txtFees) + fee, m_locale);
+        m_choices.chkTwoCategories, m_choices.chkVehicle, m_choices.isThirtyDayAd()));
+    m_boxes.txtFees = m_boxes.txtInsertionFee = twoDecimals(m_figures.insertion + fee, m_locale);
+    m_figures.reserve = fee;
+    m_figures.total = number(m_boxes.txtFees);
   }
 
   void FinalValueFee() {
-    if (!itemSold(m_choices, m_boxes, m_locale)) return;
+    if (!m_figures.isSold) return;
+    m_figures.bid = priceText(m_boxes.txtPrice, m_locale);
     m_boxes.txtFVF =
-        m_calculator->FVF(priceText(m_boxes.txtPrice, m_locale), m_boxes.txtFees, m_choices.chkRealEstate,
-                          m_choices.chkVehicle, m_choices.chkDidNotSell, m_choices.optMotorcycle);
+        m_calculator->FVF(m_figures.bid, m_boxes.txtFees, m_choices.chkRealEstate, m_choices.chkVehicle,
+                          m_choices.chkDidNotSell, m_choices.optMotorcycle);
     // Only an unsold item has a high bid here, so this empties the box; restoreClosingPrice fills it again.
     m_boxes.txtPrice = m_calculator->HighBid();
-    m_boxes.txtFees = plainText(number(m_boxes.txtFVF) + number(m_boxes.txtFees), m_locale);
+    m_figures.total = number(m_boxes.txtFVF) + m_figures.total;
+    m_boxes.txtFees = plainText(m_figures.total, m_locale);
   }
 
   void ExtraFeatures() {
     m_boxes.txtExtras = m_calculator->ExtraFeaturesFee(chosenFeatures(m_choices));
-    m_boxes.txtFees = twoDecimals(number(m_boxes.txtFees) + number(m_boxes.txtExtras), m_locale);
+    m_figures.total = m_figures.total + number(m_boxes.txtExtras);
+    m_boxes.txtFees = twoDecimals(m_figures.total, m_locale);
   }
 
   void restoreClosingPrice() {
@@ -109,15 +122,16 @@ class SingleItemRecalculation {
   CRegularAuction* m_calculator;
   const NumberLocale& m_locale;
   SingleItemBoxes& m_boxes;
+  SingleItemFigures m_figures;
   Currency m_opening;
   Currency m_closing;
 };
 
 }  // namespace
 
-void recalculateSingleItem(const SingleItemChoices& choices, CRegularAuction* calculator,
-                           const NumberLocale& locale, SingleItemBoxes& boxes) {
-  SingleItemRecalculation(choices, calculator, locale, boxes).run();
+SingleItemFigures recalculateSingleItem(const SingleItemChoices& choices, CRegularAuction* calculator,
+                                        const NumberLocale& locale, SingleItemBoxes& boxes) {
+  return SingleItemRecalculation(choices, calculator, locale, boxes).run();
 }
 
 ListingFeatures chosenFeatures(const SingleItemChoices& choices) {
@@ -146,7 +160,5 @@ ListingFeatures chosenFeatures(const SingleItemChoices& choices) {
 
 bool itemSold(const SingleItemChoices& choices, const SingleItemBoxes& boxes, const NumberLocale& locale) {
   const Currency opening = priceOrZero(boxes.txtStartingPrice, locale);
-  const Currency closing = priceOrZero(boxes.txtPrice, locale);
-  if (choices.chkDidNotSell) return false;
-  return !(choices.cboIsReserve == kReserve && closing < opening);
+  return isSold(choices, opening, priceOrZero(boxes.txtPrice, locale));
 }

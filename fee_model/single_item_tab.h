@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -38,6 +39,10 @@ struct SingleItemChoices {
   bool chkBold = false;
   bool chkGiftIcon = false;
 
+  /// Whether there is a reserve that a bid can miss.
+  [[nodiscard]] bool hasReserve() const { return cboIsReserve == 1; }
+  [[nodiscard]] bool isThirtyDayAd() const { return cboRealEstateType == 2; }
+
   friend bool operator==(const SingleItemChoices&, const SingleItemChoices&) = default;
 };
 
@@ -51,11 +56,21 @@ struct SingleItemBoxes {
   std::string txtFees;  ///< total of all fees
 };
 
+/// What the tab settles on its way to the boxes, which do not show all of it.
+struct SingleItemFigures {
+  Currency insertion;               ///< the fee for listing alone
+  std::optional<Currency> reserve;  ///< of a reserve that was not met, as it is added: it may have part cents
+  Currency total;
+  std::string bid;  ///< of a sold item: the text that its final value fee was taken from, "" for nothing
+  bool isRaised = false;  ///< that text is the opening price, which no bid reached
+  bool isSold = false;
+};
+
 /// Recalculates the tab in `boxes`. If a text is no number or too large, it throws AmountError, and the boxes
 /// hold what the steps before the error had written. Without a calculator (`nullptr`) the fee steps are
-/// skipped.
-void recalculateSingleItem(const SingleItemChoices& choices, CRegularAuction* calculator,
-                           const NumberLocale& locale, SingleItemBoxes& boxes);
+/// skipped, and the figures tell of no fee and no sale.
+SingleItemFigures recalculateSingleItem(const SingleItemChoices& choices, CRegularAuction* calculator,
+                                        const NumberLocale& locale, SingleItemBoxes& boxes);
 
 /// The choices in the terms of the calculator.
 ListingFeatures chosenFeatures(const SingleItemChoices& choices);

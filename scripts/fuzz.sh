@@ -7,7 +7,7 @@ source scripts/build.sh
 
 seconds=$1
 configure fuzz build/fuzz
-build build/fuzz
+build build/fuzz fuzz/all
 mkdir -p build/fuzz/findings
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT

@@ -92,6 +92,10 @@ int main(int argc, char** argv) {
     return 2;
   }
   std::ifstream input(argv[2], std::ios::binary);
+  if (!input) {
+    std::cerr << "split_fields: cannot open " << argv[2] << '\n';
+    return 2;
+  }
   const auto read = readerOf(input);
   const Counts counts = how == "bytes"    ? splitByteByByte(input)
                         : how == "libcsv" ? splitWithLibcsv(read)

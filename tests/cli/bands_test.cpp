@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <random>
 
 #include "price_function_sales.h"
 
@@ -104,13 +105,15 @@ TEST(Bands, AreThoseOfAScanOfEveryCent) {
 }
 
 TEST(Bands, VehiclesAreScannedBeyondTheirSteps) {
-  constexpr Cents asked = 610'000;
-  for (const std::int32_t site : {UK}) {
-    NamedSale row{.name = std::string(nameOfSite(site)), .sale = plainSale(site)};
-    row.sale.listing.single.chkVehicle = true;
-    row.sale.payment = PaymentService::PayPal;
-    PriceFunction sale(row.sale, pointLocale());
-    expectSame(deadBands(sale, asked), scanned(sale, asked), row.name);
+  // The steps of the UK end at 6000, those of Germany at 10000; the others have none.
+  const Cents asked[] = {20'000, 610'000, 20'000, 1'010'000};
+  for (std::int32_t site = US; site <= Germany; ++site) {
+    Sale vehicle = plainSale(site);
+    vehicle.listing.single.chkVehicle = true;
+    vehicle.payment = PaymentService::PayPal;
+    PriceFunction sale(vehicle, pointLocale());
+    const Cents last = asked[site - 1];
+    expectSame(deadBands(sale, last), scanned(sale, last), std::string(nameOfSite(site)));
   }
 }
 
@@ -132,6 +135,46 @@ TEST(Bands, TheLastCentIsWorseThanTheBestBelowAndTheNextIsNot) {
       EXPECT_TRUE(band.isOpen || sale.at(band.to + 1).net >= band.netBefore) << row.name;
     }
   }
+}
+
+void expectBand(const DeadBand& band, const Sale& sale, std::mt19937& random) {
+  ASSERT_EQ(netAsPriced(sale, band.from - 1), band.netBefore) << band.from;
+  for (const Cents price : {band.from, randomCents(random, band.from, band.to), band.to})
+    ASSERT_LT(netAsPriced(sale, price), band.netBefore) << price;
+  ASSERT_TRUE(band.isOpen || netAsPriced(sale, band.to + 1) >= band.netBefore) << band.to;
+}
+
+/// From one band to the next no price brings less than a lower one, but for a cent of rounding.
+void expectNoneBetween(PriceRange between, const Sale& sale, std::mt19937& random) {
+  constexpr int pairs = 3;
+  for (int at = 0; at < pairs && between.first < between.last; ++at) {
+    const Cents higher = randomCents(random, between.first + 1, between.last);
+    const Cents lower = randomCents(random, between.first, higher - 1);
+    ASSERT_GT(netAsPriced(sale, higher), netAsPriced(sale, lower) - kLeastLoss) << lower << ", " << higher;
+  }
+}
+
+TEST(Bands, OfSalesAtRandomAreAsTheirListingsArePriced) {
+  constexpr int rounds = 1000;
+  // A failure must be the same in the next run.
+  // NOLINTNEXTLINE(cert-msc51-cpp,cert-msc32-c)
+  std::mt19937 random(20040120);
+  std::size_t found = 0;
+  for (int round = 0; round < rounds; ++round) {
+    const Sale sale = randomSale(random);
+    PriceFunction function(sale, pointLocale());
+    Cents behind = function.range().first;
+    for (const DeadBand& band : deadBands(function, function.range().last)) {
+      ++found;
+      ASSERT_NO_FATAL_FAILURE(expectNoneBetween({.first = behind, .last = band.from - 1}, sale, random))
+          << round;
+      ASSERT_NO_FATAL_FAILURE(expectBand(band, sale, random)) << round;
+      behind = band.to + 1;
+    }
+    ASSERT_NO_FATAL_FAILURE(expectNoneBetween({.first = behind, .last = function.range().last}, sale, random))
+        << round;
+  }
+  EXPECT_GT(found, 1500U);
 }
 
 TEST(Bands, AreOpenWhereTheRangeEndsFirst) {

@@ -140,9 +140,24 @@ TEST(Batch, TellsWhatIsWrongWithARowAndGoesOn) {
       {"no flag",              "bold,opening\nmaybe,1\n",     "2: bold: \"maybe\" is neither yes nor no"},
       {"not offered",          "site,opening,reserve\nde,1,1\n", "2: eBay Germany has no reserve"},
       {"too large a number",   "opening,closing\n1,1e30\n",   "2: The amount \"1e30\" is too large."},
-      {"entries missing",      "kind,opening\nmultiple,1\n",  "2: items offered, opening price, items sold and lowest bid are needed"},
+      {"entries missing",      "kind,opening\nmultiple,1\n",  "2: needed: offered, sold"},
+      {"no price",             "opening,a\n1,2\n,\n",       "3: an opening price is needed"},
+      {"no opening price",     "opening,closing\n,25\n",      "2: an opening price is needed"},
+      {"more sold than there are", "kind,opening,offered,sold\nmultiple,1,5,9\n", "2: more items sold than offered: 9 of 5"},
+      {"a column of two words", "opening,Real-Estate\n1,hut\n", "2: real_estate: \"hut\" is none of 3-10-day-auction, 30-day-auction, 30-day-ad, 90-day-ad"},
+      {"a column that is needed", "opening,timeshare\n1,1\n", "2: a timeshare needs real_estate"},
+      {"no amount",            "kind,amount\npayment,\n",    "2: an amount is needed"},
+      {"two readings, comma",  "opening;a\n1,234;1\n",       "2: opening: \"1,234\" could mean two numbers: say --decimal . or --decimal ,"},
+      {"a decimal comma",      "opening;a\n9,99;1\n",        "2: opening: \"9,99\" is a number with a decimal comma only: say --decimal ,"},
+      {"no whole number",      "kind,offered\nmultiple,2.5\n", "2: offered: \"2.5\" is no whole number"},
+      {"one item of several",  "kind,opening,offered,sold\nmultiple,1,1,0\n", "2: several items are two or more"},
+      {"too low in Germany",   "site,opening\nde,0.99\n",    "2: eBay Germany takes no opening price below 1.00"},
+      {"a NUL byte",           {"kind,a\nx\0y,1\n", 13},     "2: kind: \"x y\" is none of single, multiple, payment, billpoint"},
+      {"a NUL byte in a number", {"opening,a\nx\0y,1\n", 16}, "2: opening: \"x y\" is no number"},
       {"too many cells",       "opening,a\n1,2,3\n",          "2: 3 cells, but only 2 columns"},
-      {"a mark never closed",  "opening,a\n1,\"2\n3,4\n",     "2: a quotation mark is never closed"},
+      {"a mark not doubled",   "opening,a\n1,\"5\" tall\"\n1,2\n", "2: a quotation mark is too many or too few"},
+      {"a mark closed by no later row", "opening,a\n1,\"2\n3,\"4\"\n5,6\n", "2: a quotation mark is too many or too few"},
+      {"a mark never closed",  "opening,a\n1,\"2\n3,4\n",     "2: a quotation mark is too many or too few"},
       {"line of the row",      "opening,a\n1,\"x\r\ny\n\"\n\nx,1\n", "6: opening: \"x\" is no number"},
       {"signs of control",     "kind,a\n\"x\r\ny\x1B\",1\n",  "2: kind: \"x  y \" is none of single, multiple, payment, billpoint"},
       {"no valid UTF-8",       "kind,a\nx\xC3\xFF,1\n",       "2: kind: \"x\uFFFD\uFFFD\" is none of single, multiple, payment, billpoint"},
@@ -179,25 +194,120 @@ TEST(Batch, TellsTwentyErrorsAndCountsTheOthers) {
 }
 
 TEST(Batch, RefusesATableWhoseColumnsItCannotUnderstand) {
+  using namespace std::string_view_literals;
   struct WrongUse {
     const char* rule;
     std::string text;
+    std::size_t line;
+    const char* reason;
     BatchChoices choices;
   };
   const BatchChoices window{.locale = kPoint, .isFromWindow = true};
+  constexpr const char* nothing = "there is no first line with the names of the columns";
+  constexpr const char* quotes = "the first line has a quotation mark too many or too few";
+  constexpr const char* utf16 = "the table is UTF-16: save it as UTF-8 (in Excel: CSV UTF-8)";
   const WrongUse rows[] = {
-      {"nothing at all", "", {}},
-      {"empty lines", "\n\r\n", {}},
-      {"no known column", "1.00,2.00\n", {}},
-      {"a column twice", "opening,Opening\n1,1\n", {}},
-      {"the same option, written in two ways", "two_categories,two-categories\n1,1\n", {}},
-      {"the kind twice", "kind,opening,KIND\nsingle,1,single\n", {}},
-      {"a control twice", "kind,txtPrice,txtPrice\nsingle,1,1\n", window},
-      {"options where controls are asked for", "opening,closing\n1,1\n", window},
-      {"an endless first line", std::string(std::size_t{6} << 20U, '\0'), {}},
+      {"nothing at all", "", 1, nothing, {}},
+      {"empty lines", "\n\r\n", 3, nothing, {}},
+      {"no line behind the separator", "sep=;\n", 2, nothing, {}},
+      {"no known column",
+       "1.00,2.00\n",
+       1,
+       "the first line names no column that is known, such as kind, site or opening",
+       {}},
+      {"a column twice", "opening,Opening\n1,1\n", 1, "two columns are named \"opening\"", {}},
+      {"the line of the names",
+       "sep=,\r\n\nopening,Opening\n1,1\n",
+       3,
+       "two columns are named \"opening\"",
+       {}},
+      {"the same option, written in two ways",
+       "two_categories,two-categories\n1,1\n",
+       1,
+       "two columns are named \"two-categories\"",
+       {}},
+      {"the kind twice", "kind,opening,KIND\nsingle,1,single\n", 1, "two columns are named \"kind\"", {}},
+      {"a control twice", "kind,txtPrice,txtPrice\nsingle,1,1\n", 1, "two columns are named \"txtPrice\"",
+       window},
+      {"options where controls are asked for", "opening,closing\n1,1\n", 1,
+       "the first line names neither kind nor site nor a control of the window", window},
+      {"two signs", "\nopening;note, closing\n", 2, "two signs may separate the cells of the first line", {}},
+      {"a mark not doubled", "opening,\"5\" screen\"\n1,2\n", 1, quotes, {}},
+      {"a mark never closed", "opening,\"closing\n1,2\n", 1, quotes, {}},
+      {"a mark never closed, before many rows",
+       "opening,\"closing\n" + std::string(std::size_t{6} << 20U, '\n'),
+       1,
+       quotes,
+       {}},
+      {"an endless first line",
+       std::string(std::size_t{6} << 20U, '\0'),
+       1,
+       "the first line is too long for the names of columns",
+       {}},
+      {"UTF-16 of Windows", std::string("\xFF\xFEo\0,\0a\0\n\0"sv), 1, utf16, {}},
+      {"UTF-16 in the other order", std::string("\xFE\xFF\0o\0,\0a\0\n"sv), 1, utf16, {}},
   };
-  for (const WrongUse& row : rows) EXPECT_THROW(answerTo(row.text, row.choices), OptionError) << row.rule;
+  for (const WrongUse& row : rows) {
+    try {
+      answerTo(row.text, row.choices);
+      ADD_FAILURE() << row.rule << ": taken";
+    } catch (const TableError& error) {
+      EXPECT_STREQ(error.what(), row.reason) << row.rule;
+      EXPECT_EQ(error.line() + 1, row.line) << row.rule;
+    }
+  }
   EXPECT_NO_THROW(answerTo("opening,name,name\n")) << "other columns may have any names";
+}
+
+TEST(Batch, TakesTheSeparatorFromALineInFrontOfTheNames) {
+  struct SeparatorRow {
+    const char* rule;
+    std::string_view text;
+    std::string_view begin;  ///< of the answer
+  };
+  constexpr SeparatorRow rows[] = {
+      {"a semicolon", "sep=;\nopening;a,b,c\n1;2\n", "sep=;\nopening;a,b,c;insertion_fee;"},
+      {"a comma", "sep=,\r\nopening,a;b;c\r\n1,2\r\n", "sep=,\nopening,a;b;c,insertion_fee,"},
+      {"a tab", "sep=\t\ropening\ta\r1\t2\r", "sep=\t\nopening\ta\tinsertion_fee\t"},
+      {"in marks and in any case", "\"SEP=;\"\nopening;a\n1;2\n", "\"SEP=;\"\nopening;a;insertion_fee;"},
+      {"behind a byte order mark", "\xEF\xBB\xBFSep=;\nopening;a\n1;2\n", "Sep=;\nopening;a;insertion_fee;"},
+      {"where two signs are as frequent", "sep=;\nopening;a,b\n1;2\n", "sep=;\nopening;a,b;insertion_fee;"},
+      {"marks stand only behind that sign", "sep=;\nopening;a,\"b\n1;2\n",
+       "sep=;\nopening;\"a,\"\"b\";insertion_fee;"},
+  };
+  for (const SeparatorRow& row : rows) {
+    for (const std::size_t most : {std::size_t{1}, std::size_t{1000}}) {
+      const Answer answer = answerTo(inPieces(row.text, most), {.locale = kPoint});
+      EXPECT_EQ(answer.output.substr(0, row.begin.size()), row.begin) << row.rule;
+      EXPECT_EQ(linesOf(answer.output).size(), 3U) << row.rule;
+      EXPECT_EQ(answer.errors, "") << row.rule;
+    }
+  }
+  const Answer wrong = answerTo("sep=;\nopening;a\nx;2\n");
+  EXPECT_EQ(wrong.errors, "list.csv:3: opening: \"x\" is no number\n");
+  const Answer excel = answerTo("sep=,\nopening,a\n1,2\n", {.locale = kPoint, .isForSpreadsheet = true});
+  EXPECT_TRUE(excel.output.starts_with("\xEF\xBB\xBFopening;a;insertion_fee;")) << excel.output;
+  EXPECT_THROW(answerTo("sep=|\nopening\n1\n"), TableError) << "another sign is a name";
+}
+
+TEST(Batch, TellsOfColumnsThatHaveTheNamesOfTheAnswer) {
+  const BatchChoices window{.locale = kPoint, .isFromWindow = true};
+  const Answer one = answerTo("opening,net\n1,2\n");
+  EXPECT_EQ(one.errors, "list.csv:1: the column \"net\" is there already; the new one stands at the end\n");
+  EXPECT_FALSE(one.hasErrors);
+  EXPECT_EQ(behindCells(one, "1,2"), ",0.35,,0.00,0.05,0.40,,0.60,$,");
+  EXPECT_EQ(answerTo("sep=;\nerror; net ;opening\n").errors,
+            "list.csv:2: the columns \"net\", \"error\" are there already; the new ones stand at the end\n");
+  EXPECT_EQ(answerTo("kind,shown_txtPrice,net\n", window).errors,
+            "list.csv:1: the column \"shown_txtPrice\" is there already; the new one stands at the end\n");
+  EXPECT_EQ(answerTo("opening,network\n").errors, "");
+}
+
+TEST(Batch, TakesARowForASingleItemOnEbayComUnlessItSaysOtherwise) {
+  constexpr const char* single = ",0.35,,0.00,0.05,0.40,,0.60,$,";
+  EXPECT_EQ(behindCells(answerTo("opening\n1\n"), "1"), single);
+  EXPECT_EQ(behindCells(answerTo("kind,site,opening\n,,1\n"), ",,1"), single);
+  EXPECT_EQ(behindCells(answerTo("kind,site,opening\n , ,1\n"), " , ,1"), single);
 }
 
 TEST(Batch, NeutralisesWhatASpreadsheetWouldRun) {
@@ -206,11 +316,25 @@ TEST(Batch, NeutralisesWhatASpreadsheetWouldRun) {
     const char* written;
   };
   constexpr FormulaRow rows[] = {
-      {"=1+1", "'=1+1"},         {"+A1", "'+A1"},   {"-A1", "'-A1"},
-      {"@SUM(1)", "'@SUM(1)"},   {"\t=1", "'\t=1"}, {"-5", "-5"},
-      {"+3,50", "+3,50"},        {"-1.5", "-1.5"},  {"-", "'-"},
-      {"-1.5.2", "'-1.5.2"},     {"a=1", "a=1"},    {"'=1", "'=1"},
+      {"=1+1", "'=1+1"},
+      {"+A1", "'+A1"},
+      {"-A1", "'-A1"},
+      {"@SUM(1)", "'@SUM(1)"},
+      {"\t=1", "'\t=1"},
+      {"-5", "-5"},
+      {"+3,50", "+3,50"},
+      {"-1.5", "-1.5"},
+      {"-", "'-"},
+      {"-1.5.2", "'-1.5.2"},
+      {"a=1", "a=1"},
+      {"'=1", "'=1"},
       {"\"\r=1\"", "\"'\r=1\""},
+      {"\"\n=1\"", "\"'\n=1\""},
+      {"＝1+1", "'＝1+1"},
+      {"＋A1", "'＋A1"},
+      {"－A1", "'－A1"},
+      {"＠A1", "'＠A1"},
+      {"！A1", "！A1"},
   };
   for (const FormulaRow& row : rows) {
     const Answer answer = answerTo(std::string("opening;a\n1;") + row.cell + "\n",
@@ -219,6 +343,58 @@ TEST(Batch, NeutralisesWhatASpreadsheetWouldRun) {
               "\xEF\xBB\xBFopening;a;insertion_fee;reserve_fee;extra_features;final_value_fee;"
               "total_fees;payment_fee;net;currency;error\n1;" +
                   std::string(row.written) + ";0,35;;0,00;0,05;0,40;;0,60;$;\n");
+  }
+}
+
+TEST(Batch, WritesTheNumbersOfASpreadsheetWithCommas) {
+  struct NumberRow {
+    const char* rule;
+    const char* table;
+    const char* cells;
+    BatchChoices choices;
+  };
+  const BatchChoices comma{.locale = kComma, .hasDecimal = true, .isForSpreadsheet = true};
+  const BatchChoices point{.locale = kPoint, .hasDecimal = true, .isForSpreadsheet = true};
+  const BatchChoices unsaid{.locale = kPoint, .isForSpreadsheet = true};
+  const BatchChoices window{.locale = kPoint, .isFromWindow = true, .isForSpreadsheet = true};
+  const BatchChoices windowWithCommas{
+      .locale = kComma, .hasDecimal = true, .isFromWindow = true, .isForSpreadsheet = true};
+  const NumberRow rows[] = {
+      {"an amount that was read", "opening,a\n9.99,x\n", "9,99;x", unsaid},
+      {"an amount without decimals", "opening,a\n9,x\n", "9;x", unsaid},
+      {"an amount with commas already", "opening;a\n9,99;x\n", "9,99;x", comma},
+      {"not another column", "opening,a\n1,9.99\n", "1;9.99", unsaid},
+      {"not what may mean two numbers", "opening,a\n1.234,x\n", "1.234;x", unsaid},
+      {"but what is said to mean one", "opening,a\n1.234,x\n", "1,234;x", point},
+      {"nothing that is refused", "opening;a\n9,99;x\n", "9,99;x", point},
+      {"group signs are left out", "opening,a\n\"1,234.56\",x\n", "1234,56;x", point},
+      {"without decimals too", "opening,a\n\"1,234\",x\n", "1234;x", point},
+      {"where they can be nothing else", "opening,a\n\"1,234,567\",x\n", "1234567;x", unsaid},
+      {"but not where they may be", "opening,a\n\"1,234\",x\n", "1,234;x", unsaid},
+      {"of a number with commas", "opening;a\n1.234,56;x\n", "1234,56;x", comma},
+      {"blanks that group", "opening,a\n1 234.56,x\n", "1234,56;x", unsaid},
+      {"but not of a rate, which has none", "amount,rate\n1,1 234\n", "1;1 234", unsaid},
+      {"a rate", "amount,rate\n1,0.5\n", "1;0,5", unsaid},
+      {"a currency sign is left out", "opening,a\n\"$1,234.56\",x\n", "1234,56;x", unsaid},
+      {"so are blanks around it", "opening,a\n 9.99 ,x\n", "9,99;x", unsaid},
+      {"an exponent is worked out", "opening,a\n1.5e3,x\n", "1500;x", unsaid},
+      {"a number that is too large stays", "opening,a\n1e400,x\n", "1e400;x", unsaid},
+      {"a box that shows a number", "kind,txtStartingPrice\nsingle,9.99\n",
+       "single;9,99;0,35;0,00;0,52;0,87;9,99;9,99", window},
+      {"the exchange rate of the window", "kind,txtConversion,RateText\npayment,0.5,0.25\n",
+       "payment;0,5;0,25", window},
+      {"a box with group signs", "kind,txtPaymentAmount\npayment,\"1,234.56\"\n", "payment;1234,56;", window},
+      {"they may stand anywhere there", "kind,txtPaymentAmount\npayment,\"9,99\"\n",
+       "payment;999;;;;;;;;;;;;;;999,00;", window},
+      {"a box of a comma user with a point", "kind;txtPaymentAmount\npayment;9.99\n",
+       "payment;9,99;;;;;;;;;;;;;;9,99;", windowWithCommas},
+      {"a count of the window stays", "kind,txtDutchItemsSold\nmultiple,1.5\n", "multiple;1.5;", window},
+      {"a box that shows a formula", "kind,txtPaymentAmount\npayment,+E5-E6\n",
+       "payment;'+E5-E6;;;;;;;;;;;;;;'+E5-E6;;;conversion", window},
+  };
+  for (const NumberRow& row : rows) {
+    const std::string line = linesOf(answerTo(row.table, row.choices).output).at(1);
+    EXPECT_EQ(line.substr(0, std::string_view(row.cells).size()), row.cells) << row.rule;
   }
 }
 
@@ -243,12 +419,28 @@ TEST(Batch, TakesLongCells) {
   EXPECT_LT(answerTo("kind,a\n" + cell + ",1\n").errors.size(), 300U);
 }
 
-TEST(Batch, AnEndlessRowEndsItBehindAllRowsBefore) {
-  const std::string text = "opening,a\n1,2\n1,\"" + std::string(std::size_t{17} << 20U, 'x');
+TEST(Batch, AnswersAllRowsBehindAWrongMark) {
+  for (const std::string_view mark : {R"("2)", R"("5" tall")", R"(""2)", R"("2"")"}) {
+    std::string text = "opening,a\n1,";
+    text.append(mark).append("\n1,2\n1,\"3\"\n1,4\n");
+    const auto lines = linesOf(answerTo(text).output);
+    ASSERT_EQ(lines.size(), 5U) << mark;
+    EXPECT_EQ(lines[2], "1,2,0.35,,0.00,0.05,0.40,,0.60,$,") << mark;
+    EXPECT_EQ(lines[4], "1,4,0.35,,0.00,0.05,0.40,,0.60,$,") << mark;
+  }
+}
+
+TEST(Batch, LeavesOutARowThatIsTooLongAndAnswersTheOthers) {
+  const std::string text =
+      "opening,a\n1,2\n1,\"x\ny\"," + std::string(std::size_t{17} << 20U, 'x') + "\nx,2\n1,2";
   const Answer answer = answerTo(text);
-  EXPECT_EQ(linesOf(answer.output).size(), 2U);
+  const auto lines = linesOf(answer.output);
+  ASSERT_EQ(lines.size(), 5U);
+  EXPECT_EQ(lines[2], ",,,,,,,,,,the row is longer than 16 MB and was left out");
+  EXPECT_EQ(lines[4], "1,2,0.35,,0.00,0.05,0.40,,0.60,$,");
   EXPECT_EQ(answer.errors,
-            "list.csv:3: the row is longer than 16 MB; a closing quotation mark may be missing\n");
+            "list.csv:3: the row is longer than 16 MB and was left out\n"
+            "list.csv:5: opening: \"x\" is no number\n");
 }
 
 TEST(Batch, KeepsTheOrderInSeveralThreads) {

@@ -14,10 +14,10 @@ struct CommandRun {
 };
 
 /// Runs the command in this process, with streams of its own.
-inline CommandRun run(std::vector<std::string> arguments) {
+inline CommandRun run(const std::vector<std::string>& arguments) {
   std::ostringstream out;
   std::ostringstream errors;
-  const int status = runProgram(std::move(arguments), out, errors);
+  const int status = runProgram(arguments, out, errors);
   return {.status = status, .out = out.str(), .errors = errors.str()};
 }
 

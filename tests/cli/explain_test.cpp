@@ -10,7 +10,7 @@ namespace {
 struct ExplainRow {
   const char* rule;
   const char* line;
-  const char* step;  ///< a line of the CSV answer
+  const char* step;  ///< step, amount and rule of a line of the CSV answer
 };
 
 // clang-format off
@@ -21,10 +21,11 @@ constexpr ExplainRow kRows[] = {
     {"the UK ladder leaves its sixth tier out",     "single --site uk --opening 150",                 "Opening price 150.00,2.00,\"tier 7, above 99.99: 2.00\""},
     {"doubled for two categories",                  "single --opening 12 --two-categories",           "Opening price 12.00,1.20,\"tier 3, 10.00 to 24.99: 0.60; doubled for two categories\""},
     {"between two tiers there is no fee",           "single --opening 0.995",                         "Opening price 0.995,0.00,\"in no tier, so free\""},
-    {"without a price there is no fee",             "single",                                         "Opening price 0.00,0.00,free: there is no price"},
+    {"without a price there is no fee",             "single --opening 0",                             "Opening price 0.00,0.00,free: there is no price"},
     {"real estate by type and format",              "single --real-estate 30-day-auction --timeshare","Listing real estate,50.00,30-day auction of a timeshare or land: 50.00"},
     {"a motorcycle",                                "single --motorcycle",                            "Listing a vehicle,30.00,a motorcycle: 30.00"},
     {"several items by what they are worth",        "multiple --opening 0.27 --offered 37 --sold 0 --closing 0", "37 at 0.27 = 9.99,0.35,\"tier 2, 1.00 to 9.99: 0.35\""},
+    {"a price as it was entered, of any size",      "single --opening 1234567.89 --closing 0 --reserve", "Opening price 1234567.89,4.80,\"tier 7, above 499.99: 4.80\""},
     // Reserve fee
     {"reserve, first tier",                         "single --opening 40 --reserve --closing 1",      "Reserve of 40.00,1.00,\"tier 1, below 50.00: 1.00\""},
     {"reserve, second tier",                        "single --opening 150 --reserve --closing 1",     "Reserve of 150.00,2.00,\"tier 2, from 50.00 to below 200.00: 2.00\""},
@@ -50,22 +51,34 @@ constexpr ExplainRow kRows[] = {
     {"a UK vehicle from 3000: 0.5 % of it",         "single --site uk --closing 5000 --vehicle",      "Share of its price,25.00,0.5 % of 5000.00"},
     {"a UK vehicle from 6000 pays 30",              "single --site uk --closing 6000 --vehicle",      "Sale of a vehicle,30.00,a vehicle other than a motorcycle sold for 6000.00 or more: 30.00"},
     {"a German vehicle pays both",                  "single --site de --closing 8000 --vehicle",      "Share of its price,40.00,0.5 % of 8000.00"},
+    {"a part of the price as it was entered",       "single --opening 10 --closing 1000.01",          "\"Final value, tier 3\",0.0001,1.5 % of 0.01 (above 1000.00)"},
+    {"the cents of large prices too",               "single --opening 1 --closing 1234567.89",        "\"Final value, tier 3\",18503.5183,1.5 % of 1233567.89 (above 1000.00)"},
+    {"the rest of a cent is told",                  "single --opening 1 --closing 25",                "Rounded,-0.0025,to the cent"},
+    {"a fee of a million has seven digits",         "single --opening 1 --closing 123456789.12",      "Rounded,0.0382,\"to the cent, in the precision of the calculation\""},
+    {"0.105 as a single lies below it: 0.31",       "multiple --opening 1 --closing 2 --offered 3 --sold 3", "Rounded,-0.005,\"to the cent, in the precision of the calculation\""},
+    {"prices of ten million and more",              "single --closing 16777217.01 --vehicle",         "Net,16777137.01,\"sold for 16777217.01, less the total fees\""},
+    {"of several items the tiers of all",           "multiple --opening 5 --closing 7 --offered 10 --sold 4", "\"Final value, tier 1\",1.05,4 x 5.25 % of 5.00 (up to 25.00)"},
+    {"of one that was sold the tiers alone",        "multiple --opening 5 --closing 7 --offered 2 --sold 1", "\"Final value, tier 1\",0.2625,5.25 % of 5.00 (up to 25.00)"},
+    {"of none that was sold there is no fee",       "multiple --opening 5 --closing 7 --offered 10 --sold 0", "Final value fee,0.00,none: nothing was sold"},
     // Extra features
-    {"a feature that is not doubled",               "single --scheduled --two-categories",            "Scheduled listing,0.10,0.10; not doubled for two categories"},
-    {"gallery featured covers the gallery",         "single --gallery-featured",                      "Gallery,0.00,included in Gallery Featured"},
-    {"of several items both are charged",           "multiple --opening 1 --offered 1 --sold 0 --closing 0 --gallery-featured", "Gallery,0.25,0.25"},
-    {"the pack includes the gallery",               "single --gallery --pictures pack",               "Gallery,0.00,included in the picture pack"},
-    {"the pack includes supersizing",               "single --supersize --pictures pack",             "Pictures,1.00,\"the picture pack 1.00, supersizing included in the picture pack\""},
-    {"pictures by their number",                    "single --site uk --pictures 3 --slideshow",      "Pictures,0.80,\"3 extra at 0.10 each, a slide show 0.50\""},
+    {"a feature that is not doubled",               "single --opening 1 --scheduled --two-categories",            "Scheduled listing,0.10,0.10; not doubled for two categories"},
+    {"gallery featured covers the gallery",         "single --opening 1 --gallery-featured",                      "Gallery,0.00,included in Gallery Featured"},
+    {"of several items both are charged",           "multiple --opening 1 --offered 2 --sold 0 --closing 0 --gallery-featured", "Gallery,0.25,0.25"},
+    {"the pack includes the gallery",               "single --opening 1 --gallery --pictures pack",               "Gallery,0.00,included in the picture pack"},
+    {"the pack includes supersizing",               "single --opening 1 --supersize --pictures pack",             "Pictures,1.00,\"the picture pack 1.00, supersizing included in the picture pack\""},
+    {"pictures by their number",                    "single --opening 1 --site uk --pictures 3 --slideshow",      "Pictures,0.80,\"3 extra at 0.10 each, a slide show 0.50\""},
     {"the home page of several items",              "multiple --opening 1 --offered 2 --sold 0 --closing 0 --home-page-featured", "Home page,79.95,79.95 for several items"},
-    {"gallery featured on eBay Motors",             "single --motors --gallery-featured",             "Gallery Featured,24.95,24.95 on eBay Motors"},
+    {"gift services",                               "single --opening 1 --gift",                                  "Gift services,0.25,0.25"},
+    {"on eBay Motors they are the listing icon",    "single --opening 1 --motors --gift",                         "Listing icon,0.25,0.25"},
+    {"of several items there too",                  "multiple --opening 1 --offered 2 --sold 0 --closing 0 --motors --gift", "Listing icon,0.25,0.25"},
+    {"gallery featured on eBay Motors",             "single --opening 1 --motors --gallery-featured",             "Gallery Featured,24.95,24.95 on eBay Motors"},
     {"gallery featured of a vehicle",               "single --vehicle --gallery-featured",            "Gallery Featured,99.95,99.95 for a vehicle"},
     {"the gallery of a US vehicle is free",         "single --vehicle --gallery",                     "Gallery,0.00,free for a vehicle"},
-    {"ten days are free in the UK",                 "single --site uk --ten-day",                     "Ten days,0.00,free"},
+    {"ten days are free in the UK",                 "single --opening 1 --site uk --ten-day",                     "Ten days,0.00,free"},
     // Payments
     {"2.9 % of 100",                                "payment --amount 100",                           "Share of the amount,2.90,\"2.9 % of 100.00, the standard rate\""},
     {"2.2 % of 100 for merchants",                  "payment --amount 100 --merchant",                "Share of the amount,2.20,\"2.2 % of 100.00, the merchant rate\""},
-    {"the flat fee follows the rate",               "payment --site uk --amount 1",                   "Flat fee,0.15915,\"0.15915, 0.30 US dollars at 0.5305\""},
+    {"the flat fee follows the rate",               "payment --site uk --amount 1",                   "Flat fee,0.1592,\"0.15915, 0.30 US dollars at 0.5305\""},
     {"the flat fee at the rate that was given",     "payment --site de --amount 1 --rate 0.5",        "Flat fee,0.15,\"0.15, 0.30 US dollars at 0.5\""},
     {"29.30 cut to 5.00",                           "payment --amount 1000 --echeck",                 "Cap,-24.30,\"an eCheck, capped at 5.00\""},
     {"below the cap nothing is cut",                "payment --amount 100 --echeck",                  "Cap,0.00,\"an eCheck, not above the cap of 5.00\""},
@@ -80,27 +93,44 @@ TEST(Explain, EachRuleIsNamedWithItsAmount) {
   for (const ExplainRow& row : kRows) {
     const CommandRun answer = runLine(std::string(row.line) + " --explain --format csv");
     EXPECT_EQ(answer.status, AllGood) << row.rule << ": " << answer.errors;
-    EXPECT_NE(answer.out.find('\n' + std::string(row.step) + '\n'), std::string::npos)
+    EXPECT_NE(answer.out.find('\n' + std::string(row.step) + ','), std::string::npos)
         << row.rule << "\n  wanted " << row.step << "\n  in\n"
         << answer.out;
   }
 }
 
-TEST(Explain, ABillpointPaymentAboveTheLimitIsRefusedAsWithoutExplanation) {
-  const CommandRun plain = runLine("billpoint --amount 300 --echeck");
-  const CommandRun explained = runLine("billpoint --amount 300 --echeck --explain");
-  EXPECT_EQ(plain.status, WrongUse);
-  EXPECT_EQ(explained.status, WrongUse);
-  EXPECT_NE(explained.errors.find("above the largest"), std::string::npos) << explained.errors;
-  EXPECT_EQ(explained.errors, plain.errors);
-}
+struct PartRow {
+  const char* rule;
+  const char* line;
+  const char* step;
+  const char* partOf;
+};
 
-TEST(Price, TheFinalValueFeeOfSeveralItemsIsTakenFromTheBidAsItWasEntered) {
-  // 5.25 % of 10.005 is 0.5252625, a thousand times 525.26; of 10.01 it would be 525.53. They open at
-  // 1000 x 0.01 = 10.00, third tier: 0.60.
-  const CommandRun answer =
-      runLine("multiple --opening 0.01 --offered 1000 --sold 1000 --closing 10.005 --decimal . --format csv");
-  EXPECT_NE(answer.out.find("\n0.60,,0.00,525.26,525.86,"), std::string::npos) << answer.out;
+// clang-format off
+constexpr PartRow kParts[] = {
+    {"a tier is part of its fee",        "single --opening 12 --closing 30", "\"Final value, tier 2\"", "Final value fee"},
+    {"so is what rounding adds",         "single --opening 12 --closing 25", "Rounded",                 "Final value fee"},
+    {"a feature is part of the features","single --opening 12 --bold",       "Bold",                    "Extra features"},
+    {"the fees are parts of the total",  "single --opening 12",              "Listing fee",             "Total fees"},
+    {"the reserve fee is one",           "single --opening 12 --reserve",    "Reserve fee",             "Total fees"},
+    {"of several items too",             "multiple --opening 1 --offered 2 --sold 1 --closing 1", "Final value fee", "Total fees"},
+    {"the total is part of nothing",     "single --opening 12",              "Total fees",              ""},
+    {"nor is the net",                   "single --opening 12",              "Net",                     ""},
+    {"nor a payment fee",                "payment --amount 100",             "Payment fee",             ""},
+    {"whose steps are parts of it",      "payment --amount 100",             "Flat fee",                "Payment fee"},
+};
+// clang-format on
+
+TEST(Explain, EachAmountForProgramsHasTheTotalItIsPartOfAndItsCurrency) {
+  for (const PartRow& row : kParts) {
+    const std::string csv = runLine(std::string(row.line) + " --explain --format csv").out;
+    const std::size_t start = csv.find('\n' + std::string(row.step) + ',') + 1;
+    const std::string line = csv.substr(start, csv.find('\n', start) - start);
+    EXPECT_TRUE(line.ends_with(std::string(",").append(row.partOf).append(",$"))) << row.rule << ": " << line;
+  }
+  EXPECT_EQ(runLine("single --opening 1 --site uk --explain --format csv")
+                .out.find("step,amount,rule,part_of,currency\n"),
+            0U);
 }
 
 }  // namespace

@@ -12,6 +12,7 @@ namespace {
 struct GoldenRow {
   const char* file;
   const char* line;
+  int status = AllGood;
 };
 
 // clang-format off
@@ -29,7 +30,7 @@ constexpr GoldenRow kRows[] = {
     {"explain_reserve_unmet",    "single --opening 20000 --reserve --closing 150 --two-categories --explain"},
     {"explain_reserve_free",     "single --site uk --opening 6000 --reserve --closing 150 --explain"},
     {"explain_two_categories",   "single --site ca --opening 20 --closing 1500 --two-categories --scheduled --subtitle --home-page-featured --explain"},
-    {"explain_uk_vehicle",       "single --site uk --opening 100 --closing 5000 --motorcycle --explain"},
+    {"explain_uk_vehicle",       "single --site uk --opening 100 --closing 5000 --vehicle --explain"},
     {"explain_de_vehicle",       "single --site de --opening 100 --closing 8000.50 --vehicle --explain"},
     {"explain_multiple",         "multiple --opening 0.50 --offered 10 --sold 10 --closing 35.55 --two-categories --home-page-featured --pictures 3 --gallery-featured --explain"},
     {"explain_multiple_left",    "multiple --site uk --opening 4 --offered 10 --sold 3 --closing 9 --explain"},
@@ -43,7 +44,7 @@ constexpr GoldenRow kRows[] = {
     {"schedule_ca",              "schedule --site ca"},
     {"schedule_de_comma",        "schedule --site de --decimal ,"},
     {"compare_sites",            "compare --opening 10 --closing 50 --bold --subtitle"},
-    {"compare_not_offered",      "compare --opening 10 --closing 50 --real-estate 30-day-ad"},
+    {"compare_not_offered",      "compare --opening 10 --closing 50 --real-estate 30-day-ad", SomeFailed},
     {"compare_outcomes",         "compare --by outcome --site uk --opening 100 --closing 250 --reserve --bold"},
     {"compare_multiple",         "compare --kind multiple --by outcome --opening 5 --offered 10 --sold 10 --closing 7.50"},
     {"whatif_us",                "whatif --opening 10 --closing 24.99"},
@@ -64,7 +65,7 @@ TEST(Golden, EveryAnswerIsAsItsFileHasIt) {
     for (const std::string format : {"text", "csv", "json"}) {
       const std::string path = std::string(GOLDEN_FOLDER) + '/' + row.file + '.' + format;
       const CommandRun answer = runLine(std::string(row.line) + " --format " + format);
-      EXPECT_EQ(answer.status, AllGood) << row.line << ": " << answer.errors;
+      EXPECT_EQ(answer.status, row.status) << row.line << ": " << answer.errors;
       EXPECT_EQ(answer.out, contentOf(path)) << path << ", from " << row.line;
     }
   }

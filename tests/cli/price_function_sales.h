@@ -1,9 +1,12 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <random>
 #include <string>
 #include <vector>
 
+#include "amount_text.h"
 #include "option_values.h"
 #include "price_function.h"
 
@@ -101,4 +104,82 @@ inline std::vector<NamedSale> allSales() {
 inline Cents scannedTo(const NamedSale& row) {
   const bool isPlain = row.name.ends_with("plain, unpaid") || row.name.ends_with("plain, PayPal");
   return isPlain ? 150'000 : 12'000;
+}
+
+inline Cents randomCents(std::mt19937& random, Cents first, Cents last) {
+  return std::uniform_int_distribution<Cents>(first, last)(random);
+}
+
+inline bool oneIn(std::mt19937& random, unsigned chances) { return random() % chances == 0; }
+
+inline void chooseListing(Sale& sale, std::mt19937& random) {
+  SingleItemChoices& single = sale.listing.single;
+  const bool isUS = sale.listing.site == CAuctionSite::eBayUS;
+  switch (random() % 6) {
+    case 0:
+      single.chkMotors = single.chkVehicle = true;
+      single.optMotorcycle = oneIn(random, 2);
+      break;
+    case 1:
+      single.chkRealEstate = sale.listing.site != CAuctionSite::eBayGermany;
+      single.optTimeshare = oneIn(random, 2);
+      single.cboRealEstateType = static_cast<int>(random() % 4);
+      break;
+    default:
+      break;
+  }
+  for (bool SingleItemChoices::*feature :
+       {&SingleItemChoices::chkTwoCategories, &SingleItemChoices::chkBold, &SingleItemChoices::chkBIN,
+        &SingleItemChoices::chkSubTitleSingleItem, &SingleItemChoices::chkGallery,
+        &SingleItemChoices::chkTenDayAuction})
+    single.*feature = oneIn(random, 4);
+  single.chkListingDesigner = isUS && oneIn(random, 4);
+  if (oneIn(random, 3)) {
+    sale = openingAt(std::move(sale), textOf(randomCents(random, 1, 20'000), pointLocale()).c_str());
+    single.cboIsReserve = sale.listing.site != CAuctionSite::eBayGermany && oneIn(random, 2) ? 1 : 0;
+  }
+}
+
+inline void choosePayment(Sale& sale, std::mt19937& random) {
+  const bool isGermany = sale.listing.site == CAuctionSite::eBayGermany;
+  sale.payment = static_cast<PaymentService>(random() % (isGermany ? 2 : 3));
+  if (sale.payment == PaymentService::None) return;
+  if (oneIn(random, 3)) byEcheck(sale);
+  if (oneIn(random, 3)) abroad(sale);
+  sale.listing.payment.optPayPalMerchant = oneIn(random, 3);
+  sale.listing.billpoint.IsDiscounted = oneIn(random, 3);
+  if (oneIn(random, 3))
+    sale.listing.payment.txtConversion = textOf(randomCents(random, 20, 300), pointLocale());
+  if (oneIn(random, 3)) sale.shippingCharged = randomCents(random, 1, 3'000);
+}
+
+/// A sale of any kind that its site offers, with a price at which it can sell.
+inline Sale randomSale(std::mt19937& random) {
+  for (;;) {
+    Sale sale = plainSale(static_cast<std::int32_t>(1 + random() % kSiteCount));
+    chooseListing(sale, random);
+    choosePayment(sale, random);
+    const PriceRange range = PriceFunction(sale, pointLocale()).range();
+    if (range.first <= range.last) return sale;
+  }
+}
+
+/// The net of a sale as listing and payment are priced for themselves, without a price function.
+inline Cents netAsPriced(const Sale& sale, Cents price) {
+  Pricer pricer(pointLocale());
+  const auto text = [](Cents cents) {
+    const std::string rest = std::to_string(cents % 100);
+    return std::to_string(cents / 100) + (rest.size() < 2 ? ".0" : ".") + rest;
+  };
+  const auto cents = [](const std::string& amount) {
+    return toCurrency(amount, pointLocale()).tenThousandths() / 100;
+  };
+  Listing listing = sale.listing;
+  listing.closing = text(price);
+  if (sale.opensAtPrice) listing.opening = listing.closing;
+  Cents net = cents(pricer.price(listing).net) + sale.shippingCharged;
+  if (sale.payment == PaymentService::None) return net;
+  listing.kind = sale.payment == PaymentService::PayPal ? ListingKind::Payment : ListingKind::Billpoint;
+  listing.amount = text(price + sale.shippingCharged);
+  return net - cents(pricer.price(listing).payment);
 }

@@ -16,6 +16,15 @@ Sale with(Sale sale, void (*choose)(Sale& sale)) {
   return sale;
 }
 
+/// In Canada, paid through eBay Payments at a rate, which the bounds of that follow.
+Sale atRate(const char* rate, Cents shippingCharged = 0) {
+  Sale sale = plainSale(Canada);
+  sale.payment = PaymentService::Billpoint;
+  sale.listing.payment.txtConversion = rate;
+  sale.shippingCharged = shippingCharged;
+  return sale;
+}
+
 struct ResultRow {
   const char* rule;
   Sale sale;
@@ -69,6 +78,12 @@ const RangeRow kRanges[] = {
   {"discounted up to 2000, less 3.50 shipping",   with(plainSale(US), kPaymentRows[7].choose),     1, 199'650},
   {"the UK takes 350",                            with(plainSale(UK), kPaymentRows[5].choose),     1,  35'000},
   {"Canada 500 dollars at 1.317",                 with(plainSale(Canada), kPaymentRows[5].choose), 1,  65'850},
+  {"a rate near nothing leaves nothing",          atRate("1e-30"),                     1,           0},
+  {"a rate of nothing likewise",                  atRate("0"),                         1,           0},
+  {"a large rate leaves the largest price",       atRate("1e15"),                      1, 100'000'000},
+  {"larger than a whole number can count",        atRate("1e20", 100'000'000),         1, 100'000'000},
+  {"the largest single but one",                  atRate("6e35"),                      1, 100'000'000},
+  {"opened at the largest amount that is one",    openingAt(plainSale(US), "922337203685477.58"), 92'233'720'368'547'758, 100'000'000},
   {"Germany nothing",                             with(plainSale(Germany), kPaymentRows[5].choose), 100, 0},
 };
 // clang-format on
@@ -87,6 +102,16 @@ TEST(PriceFunction, TheLargestAmountOfAServiceIsPricedAndTheNextCentIsNot) {
     PriceFunction sale(row.sale, pointLocale());
     EXPECT_NO_THROW(sale.at(sale.range().last)) << row.name;
     EXPECT_THROW(sale.at(sale.range().last + 1), PricingError) << row.name;
+  }
+}
+
+TEST(PriceFunction, TheLargestAmountFollowsTheRateToTheCent) {
+  // From 524288 on singles lie further apart than cents: more of them are as good as the bound.
+  for (const char* rate : {"0.0002", "0.01", "0.7777", "1.2345", "524.288", "1100.01", "1999.99"}) {
+    PriceFunction sale(atRate(rate), pointLocale());
+    ASSERT_TRUE(sale.isLimitedByPayment()) << rate;
+    EXPECT_NO_THROW(sale.at(sale.range().last)) << rate;
+    EXPECT_THROW(sale.at(sale.range().last + 1), PricingError) << rate;
   }
 }
 

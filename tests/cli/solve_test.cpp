@@ -117,25 +117,45 @@ TEST(Solve, FindsWhatAScanOfEveryCentFinds) {
   EXPECT_GT(found, 2000U);
 }
 
-TEST(Solve, TheAnswerPricedAgainReachesTheTargetAndTheCentBelowDoesNot) {
+/// Prices at random in a range, none if it is empty.
+std::vector<Cents> probes(std::mt19937& random, PriceRange range) {
+  constexpr int enough = 8;
+  std::vector<Cents> prices;
+  for (int at = 0; at < enough && range.first <= range.last; ++at)
+    prices.push_back(randomCents(random, range.first, range.last));
+  return prices;
+}
+
+TEST(Solve, TheAnswerPricedAgainReachesTheTargetAndNoPriceBelowDoes) {
+  constexpr int rounds = 5000;
   // A failure must be the same in the next run.
   // NOLINTNEXTLINE(cert-msc51-cpp,cert-msc32-c)
   std::mt19937 random(7);
-  const std::vector<NamedSale> sales = allSales();
-  for (int round = 0; round < 4000; ++round) {
-    const NamedSale& row = sales[random() % sales.size()];
-    PriceFunction sale(row.sale, pointLocale());
-    const Target target = randomTarget(random, std::min<Cents>(sale.range().last, 2'000'000));
-    const auto solution = solve(sale, target);
-    if (!solution) continue;
-    PriceFunction again(row.sale, pointLocale());
-    const Cents price = solution->answer.price;
-    ASSERT_GE(again.at(price).net, target.neededAt(price)) << row.name;
-    ASSERT_EQ(again.at(price).net, solution->answer.net) << row.name;
-    if (price == again.range().first) continue;
-    ASSERT_LT(again.at(price - 1).net, target.neededAt(price - 1)) << row.name;
-    ASSERT_EQ(solution->below->price, price - 1) << row.name;
+  int found = 0;
+  for (int round = 0; round < rounds; ++round) {
+    const Sale sale = randomSale(random);
+    PriceFunction function(sale, pointLocale());
+    const PriceRange range = function.range();
+    const Target target =
+        randomTarget(random, std::min<Cents>(range.last, oneIn(random, 2) ? 8'000 : 2'000'000));
+    const auto solution = solve(function, target);
+    PriceRange below{.first = range.first, .last = range.last};
+    if (solution) {
+      ++found;
+      below.last = solution->answer.price - 1;
+      ASSERT_EQ(netAsPriced(sale, solution->answer.price), solution->answer.net) << round;
+      ASSERT_GE(solution->answer.net, target.neededAt(solution->answer.price)) << round;
+      ASSERT_EQ(solution->below.has_value(), below.first <= below.last) << round;
+    }
+    if (solution && solution->below) {
+      ASSERT_EQ(solution->below->price, below.last) << round;
+      ASSERT_EQ(netAsPriced(sale, below.last), solution->below->net) << round;
+      ASSERT_LT(solution->below->net, target.neededAt(below.last)) << round;
+    }
+    for (const Cents price : probes(random, below))
+      ASSERT_LT(netAsPriced(sale, price), target.neededAt(price)) << round << " at " << price;
   }
+  EXPECT_GT(found, rounds / 2);
 }
 
 }  // namespace

@@ -21,14 +21,16 @@ struct WhatIfRow {
 // clang-format off
 // Up to 25.00 the seller keeps 94.75 % of a rise, above it 97.25 %: 24.99 - 1.31 - 0.60 = 23.08 are left.
 constexpr WhatIfRow kRows[] = {
-    {"0.20 more within the first tier: 25.20 - 1.32 - 0.80",  "whatif --opening 10 --closing 24.99", "ten-day,0.20,0.21,25.20,23.08,23.07,"},
-    {"5.00 more in the second tier: 30.13 - 1.45 - 5.60",     "whatif --opening 10 --closing 24.99", "highlight,5.00,5.14,30.13,23.08,23.07,"},
-    {"what is free has paid for itself",                      "whatif --site uk --opening 10 --closing 20", "ten-day,0.00,0.00,20.00,18.60,,"},
-    {"the pack saves the gallery",                            "whatif --opening 10 --closing 20 --gallery --supersize", "pictures pack,0.00,0.00,20.00,17.35,,"},
-    {"a vehicle pays for a sale whatever it brings",          "whatif --opening 10 --closing 2000 --vehicle", "bold,4.00,4.00,2004.00,1920.00,1919.99,"},
-    {"nothing was sold",                                      "whatif --opening 10 --did-not-sell", "bold,1.00,,,,,nothing was sold that could pay for it"},
+    {"0.20 more within the first tier: 25.20 - 1.32 - 0.80",  "whatif --opening 10 --closing 24.99", "ten-day,0.20,0.21,closing,25.20,23.08,23.07,"},
+    {"5.00 more in the second tier: 30.13 - 1.45 - 5.60",     "whatif --opening 10 --closing 24.99", "highlight,5.00,5.14,closing,30.13,23.08,23.07,"},
+    {"what is free has paid for itself",                      "whatif --site uk --opening 10 --closing 20", "ten-day,0.00,0.00,,20.00,18.60,,"},
+    {"the pack saves the gallery",                            "whatif --opening 10 --closing 20 --gallery --supersize", "pictures pack,0.00,0.00,,20.00,17.35,,"},
+    {"a vehicle pays for a sale whatever it brings",          "whatif --opening 10 --closing 2000 --vehicle", "bold,4.00,4.00,closing,2004.00,1920.00,1919.99,"},
+    {"nothing was sold",                                      "whatif --opening 10 --did-not-sell", "bold,1.00,,,,,,nothing was sold that could pay for it"},
     // 3 sold at 4.00: three times 0.21 are 0.63, listed for 1.50; 0.75 more, and at 4.27 three pay 0.67.
-    {"of several items each brings its part",                 "whatif --kind multiple --site uk --opening 4 --offered 10 --sold 3 --closing 9", "bold,0.75,0.27,4.27,9.89,9.86,"},
+    {"of several items each brings its part",                 "whatif --kind multiple --site uk --opening 4 --offered 10 --sold 3 --closing 9", "bold,0.75,0.27,opening,4.27,9.89,9.86,"},
+    // All 5 sold at 10.00: 50.00 - 2.62 - 2.40; with 0.50 more five times 0.11 bring 50.55 - 2.65 - 2.90.
+    {"where all are sold it is the lowest bid that rises",    "whatif --kind multiple --opening 10 --offered 5 --sold 5 --closing 8", "subtitle,0.50,0.11,closing,10.11,45.00,44.95,"},
 };
 // clang-format on
 
@@ -56,7 +58,7 @@ constexpr OfferRow kOffers[] = {
     {"chosen with another feature",             "whatif --opening 9 --gallery-featured",            "gallery",          false},
     {"pictures were chosen",                    "whatif --opening 9 --pictures 2",                  "pictures pack",    false},
     {"on eBay.com only",                        "whatif --opening 9 --site de",                     "gift",             false},
-    {"for single items only",                   "whatif --kind multiple --opening 9 --offered 1 --sold 1 --closing 9", "buy-it-now", false},
+    {"for single items only",                   "whatif --kind multiple --opening 9 --offered 2 --sold 2 --closing 9", "buy-it-now", false},
 };
 // clang-format on
 
@@ -66,6 +68,16 @@ TEST(WhatIf, FeaturesStandThereThatAreOfferedAndNotChosen) {
     EXPECT_EQ(csv.find('\n' + std::string(row.feature) + ',') != std::string::npos, row.isThere) << row.rule;
     EXPECT_EQ(csv.find("feature,added_fees"), 0U) << csv;
   }
+}
+
+TEST(WhatIf, TheTextSaysWhichPriceHasToRise) {
+  const std::string note =
+      "With items left over all are sold at the opening price: it is what must be raised.";
+  const std::string line = "whatif --kind multiple --opening 10 --closing 10 --offered 5 --sold ";
+  EXPECT_NE(runLine(line + "3").out.find(note), std::string::npos);
+  for (const char* sold : {"0", "5"})
+    EXPECT_EQ(runLine(line + sold).out.find(note), std::string::npos) << sold;
+  EXPECT_EQ(runLine("whatif --opening 10 --closing 30").out.find(note), std::string::npos);
 }
 
 /// What the seller keeps of a single item that sold for so much more.
@@ -89,7 +101,7 @@ TEST(WhatIf, NoSmallerRisePaysOnAnySite) {
     const Currency before = toCurrency(pricer.price(listing).net, kSigns);
     Listing bold = listing;
     bold.single.chkBold = true;
-    for (const WhatIf& row : whatIf(pricer, listing)) {
+    for (const AddedFeature& row : whatIf(pricer, listing).features) {
       if (row.feature != "bold") continue;
       ASSERT_TRUE(row.paying.has_value());
       EXPECT_GE(netAt(pricer, bold, row.paying->price), before);

@@ -190,6 +190,12 @@ TEST(Billpoint, ANumberThatIsTooLargeIsAnError) {
   EXPECT_THROW(billpointFee(enUS(), Canada, "100", false, true, false, "1e38"), OverflowError);
 }
 
+TEST(Billpoint, TheLimitIsNotAskedForBelowTheThreshold) {
+  // The largest payment, 2,000.00 dollars, would be too large a number at this rate.
+  EXPECT_EQ(billpointFee(enUS(), Canada, "1", true, true, false, "1.8e35"), " 6.3E+34");
+  EXPECT_THROW(billpointFee(enUS(), Canada, "1e37", true, true, false, "1.8e35"), OverflowError);
+}
+
 TEST(Billpoint, WithoutAScheduleAllowsNothing) {
   CPaymentService calculator(enUS());
   EXPECT_EQ(calculator.BillpointFee("0", false, true, false, "1.45"), " 0");

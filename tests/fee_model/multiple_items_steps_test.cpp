@@ -188,6 +188,7 @@ const FaultyRow kNoNumbers[] = {
   {"letters as items sold",                    "3",     "5",     "abc",   "7",     "abc"},
   {"letters as items sold, entries incomplete", "3",    "",      "abc",   "7",     "abc"},
   {"letters as lowest bid",                    "3",     "5",     "3",     "abc",   "abc"},
+  {"the lowest bid is compared with the opening price, so it is read first", "3", "1e30", "3", "abc", "abc"},
   {"a blank is not an empty box",              "3",     " ",     "3",     "7",     " "},
   {"two signs",                                "3",     "--5",   "3",     "7",     "--5"},
 };

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <string>
+
+/// What is wrong with a command line that could not be parsed, and on a second line where help is. In words
+/// of the program's own, but for errors that no command line can bring about.
+[[nodiscard]] std::string usageError(const CLI::ParseError& error, const CLI::App& program);

@@ -11,7 +11,8 @@
 
 /// \file
 /// What the writers produce, the readers read as the same value: for a user of any way of writing numbers,
-/// and for numbers of any size. A single is known by its seven digits and a double by its fifteen.
+/// and for numbers of any size. A single is known by its seven digits and a double by its fifteen; two powers
+/// of ten are the exception.
 
 namespace {
 
@@ -106,6 +107,19 @@ TEST(RoundTrip, APlainSingleIsReadWithTheSameSevenDigits) {
       ASSERT_NEAR(static_cast<double>(read), exact, 6e-7 * std::abs(exact));
     }
   });
+}
+
+TEST(RoundTrip, OfThePowersOfTenTwoAreReadAsALittleLess) {
+  const NumberLocale& locale = kTestLocales.front().signs;
+  std::vector<int> changed;
+  for (int power = -45; power <= 38; ++power) {
+    // The next single above shows the same digits, where singles are that close.
+    const float nearest = toSingle("1E" + std::to_string(power), locale);
+    const std::string text = plainText(std::nextafter(nearest, 1e38F), locale);
+    if (plainText(toSingle(text, locale), locale) != text) changed.push_back(power);
+  }
+  EXPECT_EQ(changed, (std::vector<int>{-38, 28}));
+  EXPECT_EQ(plainText(toSingle("1E28", locale), locale), " 9.999999E+27");
 }
 
 TEST(RoundTrip, APlainDoubleIsReadWithTheSameFifteenDigits) {

@@ -11,34 +11,30 @@ constexpr char kQuote = '"';
 /// So many bytes are looked through at once: one for each bit of a word.
 constexpr std::size_t kBlock = 64;
 
-constexpr std::uint64_t kEachByte = 0x0101010101010101U;
-constexpr std::uint64_t kHighestBits = 0x80U * kEachByte;
-
-/// Eight bytes with the highest bit set in those that are 0, and no other bit.
-std::uint64_t zeroBytes(std::uint64_t bytes) {
-  return ~(((bytes & ~kHighestBits) + ~kHighestBits) | bytes) & kHighestBits;
-}
-
-/// The highest bits of eight bytes side by side, that of the first byte lowest.
-std::uint64_t gathered(std::uint64_t highestBits) {
+/// The lowest bits of eight bytes side by side, that of the first byte lowest.
+std::uint64_t gathered(std::uint64_t lowestBits) {
   // The product brings each of them to its place in the highest byte, and no two to one place.
   constexpr std::uint64_t places =
       std::endian::native == std::endian::little ? 0x0102040810204080U : 0x8040201008040201U;
-  return (highestBits >> 7U) * places >> 56U;
+  return lowestBits * places >> 56U;
 }
 
 /// Which of a block's bytes are not simply part of a cell. Cells are short: who goes from one sign to the
 /// next byte by byte guesses wrong at nearly each of them.
 std::uint64_t signsIn(const char* block, char separator) {
-  const auto each = [](char c) { return kEachByte * static_cast<unsigned char>(c); };
-  const std::uint64_t separators = each(separator);
+  // As bytes and without a branch, so that the compiler compares many at once.
+  using Byte = unsigned char;
+  const auto same = [](char one, char other) { return one == other ? Byte{1} : Byte{0}; };
+  std::array<Byte, kBlock> isSign;
+  for (std::size_t at = 0; at < kBlock; ++at) {
+    const char c = block[at];
+    isSign[at] = same(c, separator) | same(c, kQuote) | same(c, '\n') | same(c, '\r');
+  }
   std::uint64_t signs = 0;
   for (std::size_t at = 0; at < kBlock; at += sizeof(std::uint64_t)) {
     std::uint64_t bytes = 0;
-    std::memcpy(&bytes, block + at, sizeof(bytes));
-    signs |= gathered(zeroBytes(bytes ^ separators) | zeroBytes(bytes ^ each(kQuote)) |
-                      zeroBytes(bytes ^ each('\n')) | zeroBytes(bytes ^ each('\r')))
-             << at;
+    std::memcpy(&bytes, &isSign[at], sizeof(bytes));
+    signs |= gathered(bytes) << at;
   }
   return signs;
 }
@@ -124,15 +120,15 @@ void CsvReader::readPlainCells(CsvRow& row) {
   if (start < m_block || start - m_block >= kBlock) lookThrough(start);
   std::uint64_t signs = m_signs >> (start - m_block) << (start - m_block);
   while (true) {
-    while (signs == 0 && m_text.size() - m_block > kBlock) {
-      lookThrough(m_block + kBlock);
-      signs = m_signs;
+    for (; signs != 0; signs &= signs - 1) {
+      const std::size_t sign = m_block + static_cast<std::size_t>(std::countr_zero(signs));
+      if (m_text[sign] != m_separator) break;
+      row.cells.emplace_back(m_text.data() + start, sign - start);
+      start = sign + 1;
     }
-    const std::size_t sign = m_block + static_cast<std::size_t>(std::countr_zero(signs));
-    if (signs == 0 || m_text[sign] != m_separator) break;
-    row.cells.push_back(m_text.substr(start, sign - start));
-    start = sign + 1;
-    signs &= signs - 1;
+    if (signs != 0 || m_text.size() - m_block <= kBlock) break;
+    lookThrough(m_block + kBlock);
+    signs = m_signs;
   }
   m_at = start;
 }

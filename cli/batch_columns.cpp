@@ -2,17 +2,16 @@
 
 #include <algorithm>
 
+#include "ascii_text.h"
 #include "option_values.h"
 
 namespace {
 
 /// The name of a column as the options are named: in lower case, with "-".
 std::string optionName(std::string_view column) {
-  constexpr char toLower = 'a' - 'A';
   std::string name(withoutBlanks(column));
   for (char& c : name) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + toLower);
-    if (c == '_') c = '-';
+    c = c == '_' ? '-' : inLowerCase(c);
   }
   return name;
 }
@@ -54,13 +53,6 @@ void markNumbers(const std::array<std::vector<SetColumn<Setter>>, 4>& columns,
 }
 
 }  // namespace
-
-std::string_view withoutBlanks(std::string_view text) {
-  const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
-  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
-  return text;
-}
 
 BatchColumns batchColumns(const CsvRow& header, bool isFromWindow) {
   BatchColumns columns;

@@ -41,5 +41,3 @@ struct NamesTaken {
   std::size_t count = 0;
 };
 [[nodiscard]] NamesTaken namesTaken(const CsvRow& header, const CsvRow& answer);
-
-[[nodiscard]] std::string_view withoutBlanks(std::string_view text);

@@ -1,4 +1,5 @@
 #include "amount_errors.h"
+#include "ascii_text.h"
 #include "batch_rows.h"
 #include "option_values.h"
 #include "pricing.h"
@@ -55,10 +56,10 @@ class FeeAnswers : public RowAnswers {
 
   void set(const Option& option, std::string_view cell) {
     const BatchChoices& choices = m_plan.choices;
-    if (option.kind != OptionKind::Flag && option.kind != OptionKind::Choice)
-      return option.set(m_listing, readValue(option, cell, choices.locale, choices.hasDecimal));
     cell = withoutBlanks(cell);
     if (cell.empty()) return;
+    if (option.kind != OptionKind::Flag && option.kind != OptionKind::Choice)
+      return option.set(m_listing, readValue(option, cell, choices.locale, choices.hasDecimal));
     try {
       option.set(m_listing, cell);
     } catch (const OptionError& error) {

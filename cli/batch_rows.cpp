@@ -6,14 +6,13 @@
 
 #include "amount_errors.h"
 #include "amount_text.h"
+#include "ascii_text.h"
 #include "number_shape.h"
 #include "option_values.h"
 #include "quoted_text.h"
 #include "table.h"
 
 namespace {
-
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 /// "-5", "+3,50", "1.5": nothing that a spreadsheet would calculate.
 bool isPlainNumber(std::string_view text) {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <span>
 
+#include "ascii_text.h"
+
 namespace {
 
 constexpr char kQuote = '"';
@@ -22,10 +24,9 @@ std::optional<char> separatorIn(std::string_view line) {
   constexpr std::string_view start = "sep=";
   if (line.size() == start.size() + 3 && line.front() == kQuote && line.back() == kQuote)
     line = line.substr(1, line.size() - 2);
-  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; };
   const bool isIt = line.size() == start.size() + 1 &&
                     std::equal(start.begin(), start.end(), line.begin(),
-                               [&](char small, char c) { return small == lower(c); }) &&
+                               [](char small, char c) { return small == inLowerCase(c); }) &&
                     kSeparators.find(line.back()) != std::string_view::npos;
   return isIt ? std::optional(line.back()) : std::nullopt;
 }

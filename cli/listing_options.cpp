@@ -47,8 +47,10 @@ void ListingOptions::addTo(CLI::App& command, OptionScope scope,
     const std::string name = asTyped(option.name);
     const std::string help = helpOf(option, scope);
     if (option.kind == OptionKind::Flag) {
-      command.add_flag_callback(
-          name, [this, &option] { m_values[&option] = "1"; }, help);
+      // "true", or what stands behind the sign in "--bold=no": it means what it means in a cell.
+      command.add_flag(name, help)->each([this, &option](const std::string& value) {
+        m_values[&option] = value;
+      });
     } else {
       command
           .add_option_function<std::string>(

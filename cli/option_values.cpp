@@ -7,6 +7,7 @@
 #include <charconv>
 
 #include "amount_text.h"
+#include "ascii_text.h"
 #include "entry_rules.h"
 #include "number_shape.h"
 #include "quoted_text.h"
@@ -19,10 +20,8 @@ constexpr std::array<std::string_view, 4> kSites{"us", "uk", "ca", "de"};
 constexpr std::array<std::string_view, 4> kSiteHeadings{"eBay.com", "eBay UK", "eBay Canada", "eBay Germany"};
 
 bool isSame(std::string_view text, std::string_view lowerCase) {
-  constexpr char toLower = 'a' - 'A';
-  return std::equal(text.begin(), text.end(), lowerCase.begin(), lowerCase.end(), [](char one, char other) {
-    return (one >= 'A' && one <= 'Z' ? static_cast<char>(one + toLower) : one) == other;
-  });
+  return std::equal(text.begin(), text.end(), lowerCase.begin(), lowerCase.end(),
+                    [](char one, char other) { return inLowerCase(one) == other; });
 }
 
 [[noreturn]] void fail(const Option& option, std::string_view text, std::string_view why) {
@@ -30,8 +29,6 @@ bool isSame(std::string_view text, std::string_view lowerCase) {
 }
 
 constexpr const char* kNoNumber = "is no number";
-
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 /// The largest number of items that the window's boxes take.
 constexpr int kMostItems = 32767;

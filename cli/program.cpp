@@ -48,7 +48,7 @@ int parse(CLI::App& program, const Session& session, const std::vector<std::stri
     program.exit(helpOrVersion, session.out, session.errors);
     return AllGood;
   } catch (const CLI::ParseError& error) {
-    session.errors << usageError(error, program);
+    session.errors << usageError(error, program, arguments);
   } catch (const std::runtime_error& error) {
     // An option, an amount or a listing that makes no sense.
     session.errors << program.get_name() << ": " << oneLine(error.what(), longest) << '\n';

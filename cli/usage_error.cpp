@@ -20,6 +20,9 @@ std::string suggestion(const std::string& dashes, const std::string& name,
   return nearest.empty() ? "" : ": did you mean " + dashes + nearest + "?";
 }
 
+/// "--bold" of "--bold=no".
+std::string nameIn(const std::string& argument) { return argument.substr(0, argument.find('=')); }
+
 /// What "--p" is instead of an option: short for several, or none at all.
 std::string noOption(const std::string& name, const CLI::App& command) {
   std::string meant;
@@ -39,11 +42,24 @@ std::string noCommand(const std::string& name, const CLI::App& program) {
   return "there is no command " + quotedText(name) + suggestion("", name, known);
 }
 
-/// What the program itself (then it should be a command) or a command does not understand.
+/// What a command does not understand.
 std::string unexpected(const std::string& argument, const CLI::App& command) {
-  if (argument.starts_with('-')) return noOption(argument.substr(0, argument.find('=')), command);
-  if (command.get_parent() == nullptr) return noCommand(argument, command);
+  if (argument.starts_with('-')) return noOption(nameIn(argument), command);
   return "unexpected argument " + quotedText(argument);
+}
+
+/// What the program itself does not understand, where a command should stand.
+std::string noProgramArgument(const std::string& argument, const CLI::App& program, const CLI::App& command,
+                              const std::vector<std::string>& arguments) {
+  if (!argument.starts_with('-')) return noCommand(argument, program);
+  const std::string name = nameIn(argument);
+  const auto placeOf = [&](const std::string& word) {
+    return std::find(arguments.begin(), arguments.end(), word);
+  };
+  const bool isInFront = placeOf(argument) < placeOf(command.get_name());
+  if (isInFront && &command != &program && !optionsMeant(command, name).empty())
+    return "option " + quotedText(name) + " belongs behind " + quotedText(command.get_name());
+  return noOption(name, program);
 }
 
 /// The option that an error is about, by its name in front of the parser's text; null if it names none.
@@ -77,10 +93,11 @@ std::string missing(const CLI::App& command) {
   return "a command is needed";
 }
 
-std::string reasonOf(const CLI::ParseError& error, const CLI::App& program, const CLI::App& command) {
+std::string reasonOf(const CLI::ParseError& error, const CLI::App& program, const CLI::App& command,
+                     const std::vector<std::string>& arguments) {
   // What was not understood stands first: another word may be missing only because of it.
   const auto beside = program.remaining();
-  if (!beside.empty()) return unexpected(beside.front(), program);
+  if (!beside.empty()) return noProgramArgument(beside.front(), program, command, arguments);
   const auto behind = command.remaining();
   if (!behind.empty()) return unexpected(behind.front(), command);
   if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return missing(command);
@@ -93,10 +110,11 @@ std::string reasonOf(const CLI::ParseError& error, const CLI::App& program, cons
 
 }  // namespace
 
-std::string usageError(const CLI::ParseError& error, const CLI::App& program) {
+std::string usageError(const CLI::ParseError& error, const CLI::App& program,
+                       const std::vector<std::string>& arguments) {
   constexpr std::size_t longest = 1000;
   const CLI::App& command = askedFor(program);
   const std::string asked = &command == &program ? "" : " " + command.get_name();
-  return program.get_name() + ": " + oneLine(reasonOf(error, program, command), longest) + "\nTry '" +
-         program.get_name() + asked + " --help'.\n";
+  return program.get_name() + ": " + oneLine(reasonOf(error, program, command, arguments), longest) +
+         "\nTry '" + program.get_name() + asked + " --help'.\n";
 }

@@ -106,7 +106,11 @@ constexpr ErrorRow kErrors[] = {
     {"another decimal sign",           "batch --decimal ; x.csv",        "--decimal: \";\" is none of .|,",          " batch"},
     {"an empty choice",                "single --format=",               "--format: \"\" is none of text|csv|json",  " single"},
     {"another kind",                   "whatif --kind payment",          "--kind: \"payment\" is none of single|multiple", " whatif"},
-    {"a flag with another value",      "single --bold=maybe",            "--bold: \"maybe\" is neither yes nor no",  " single"},
+    {"a flag with another value",      "single --explain=maybe",         "--explain: \"maybe\" is neither yes nor no", " single"},
+    {"in front of its command",        "--bold=no single --opening 5",   "option \"--bold\" belongs behind \"single\"", " single"},
+    {"in front, cut short",            "--open 5 single",                "option \"--open\" belongs behind \"single\"", " single"},
+    {"in front and of another command", "--kind=single payment",         "there is no option \"--kind\"",           " payment"},
+    {"in front of no command",         "--site uk",                      "there is no option \"--site\"",           ""},
     {"behind -- all are arguments",    "single --opening 5 -- --bold=",  "there is no option \"--bold\"",            " single"},
 };
 
@@ -115,6 +119,9 @@ constexpr TextRow kEmpty[] = {
     {"the next option keeps its meaning",   "single --closing= --bold --opening 1 --format csv", "\n0.35,,1.00,", "unused"},
     {"as the last of all",                  "single --opening 1 --closing=",               "Listing fee      $  0.35",  "unused"},
     {"an empty flag says no",               "single --opening 1 --bold= --format csv",     "\n0.35,,0.00,",             "unused"},
+    {"a flag says no",                      "single --opening 1 --bold=no --format csv",   "\n0.35,,0.00,",             "unused"},
+    {"a flag says yes as a cell does",      "single --opening 1 --bold=X --format csv",    "\n0.35,,1.00,",             "unused"},
+    {"the last of two flags counts",        "single --opening 1 --bold --bold=no --format csv", "\n0.35,,0.00,",        "unused"},
     {"choices are read in any case",        "single --opening 1 --format CSV",             "insertion_fee,",            "Listing fee"},
 };
 
@@ -153,6 +160,7 @@ constexpr RefusedRow kRefused[] = {
     {"no site whose schedule is asked for",    "schedule --site fr",                       "--site: \"fr\" is none of us, uk, ca, de"},
     {"a comma that could mean two things",     "single --opening 1,234",                   "--opening: \"1,234\" could mean two numbers: say --decimal . or --decimal ,"},
     {"a decimal comma",                        "single --opening 9,99",                    "--opening: \"9,99\" is a number with a decimal comma only: say --decimal ,"},
+    {"a flag with another value",              "single --opening 1 --bold=2",              "--bold: \"2\" is neither yes nor no"},
     {"an option as a value",                   "single --opening --bold",                 "--opening: \"--bold\" is no number"},
     {"the beginning of one as a value",        "single --opening --bo",                   "--opening: \"--bo\" is no number"},
     {"one with a sign as a value",             "single --opening --bold=",                "--opening: \"--bold=\" is no number"},

@@ -23,9 +23,10 @@ else()
   target_compile_options(house_rules INTERFACE
     -Wall -Wextra -Wpedantic -Werror -Wconversion -Wsign-conversion -Wshadow -Wdouble-promotion
     -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Wimplicit-fallthrough -ffp-contract=off)
-  # What GCC suspects while it optimizes as much as Release does is mostly wrong, and in the library's headers.
+  # What GCC suspects while it optimizes as much as for Release is mostly wrong, and in the library's headers.
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    target_compile_options(house_rules INTERFACE -Wno-error=restrict -Wno-error=maybe-uninitialized)
+    target_compile_options(house_rules INTERFACE
+      "$<$<CONFIG:Release>:-Wno-error=restrict;-Wno-error=maybe-uninitialized>")
   endif()
 endif()
 if(TESSALOOM_SANITIZE)

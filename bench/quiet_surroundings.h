@@ -7,6 +7,7 @@
 #include <QMap>
 #include <utility>
 
+#include "folders.h"
 #include "frmeBayFees.h"
 #include "start.h"
 
@@ -70,7 +71,7 @@ class FilledWindow {
   explicit FilledWindow(SettingsStore& settings)
       : m_languages({.settings = settings,
                      .messages = m_messages,
-                     .programFolder = QStringLiteral(LANGUAGE_FOLDER),
+                     .programFolder = QString::fromUtf8(kProgramFolder),
                      .programName = QStringLiteral("Tessaloom"),
                      .userCode = QStringLiteral("409")}) {
     m_languages.InitLanguage();

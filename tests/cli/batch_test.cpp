@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "batch_run.h"
+#include "folders.h"
 #include "option_values.h"
 
 namespace {
@@ -49,7 +50,7 @@ Answer answerTo(std::string_view text, const BatchChoices& choices = {.locale = 
 }
 
 std::string fileText(const std::string& name) {
-  std::ifstream file(std::string(GOLDEN_FOLDER "/") + name, std::ios::binary);
+  std::ifstream file(kSourceFolder + std::string("/tests/cli/golden/") + name, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
 }
 

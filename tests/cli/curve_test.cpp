@@ -10,6 +10,7 @@
 #include "command_run.h"
 #include "curve_file.h"
 #include "curve_picture.h"
+#include "folders.h"
 #include "price_function_sales.h"
 
 namespace {
@@ -190,7 +191,9 @@ TEST(CurveFile, ThePictureIsThatOfTheFileAndTheSameOnTheOutput) {
     const CommandRun answer = run(arguments);
     EXPECT_EQ(answer.status, AllGood) << answer.errors;
     EXPECT_EQ(answer.out + answer.errors, "") << row.line;
-    EXPECT_EQ(contentOf(file), contentOf(std::filesystem::path(GOLDEN_FOLDER) / row.golden)) << row.line;
+    EXPECT_EQ(contentOf(file),
+              contentOf(std::filesystem::path(kSourceFolder) / "tests/cli/golden" / row.golden))
+        << row.line;
     arguments.back() = "-";
     EXPECT_EQ(run(arguments).out, contentOf(file)) << row.line;
   }

@@ -3,6 +3,7 @@
 #include <fstream>
 
 #include "command_run.h"
+#include "folders.h"
 
 /// \file
 /// Whole answers, compared with files: each command line in text, CSV and JSON.
@@ -63,7 +64,7 @@ std::string contentOf(const std::string& path) {
 TEST(Golden, EveryAnswerIsAsItsFileHasIt) {
   for (const GoldenRow& row : kRows) {
     for (const std::string format : {"text", "csv", "json"}) {
-      const std::string path = std::string(GOLDEN_FOLDER) + '/' + row.file + '.' + format;
+      const std::string path = kSourceFolder + std::string("/tests/cli/golden/") + row.file + '.' + format;
       const CommandRun answer = runLine(std::string(row.line) + " --format " + format);
       EXPECT_EQ(answer.status, row.status) << row.line << ": " << answer.errors;
       EXPECT_EQ(answer.out, contentOf(path)) << path << ", from " << row.line;

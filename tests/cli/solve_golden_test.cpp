@@ -9,6 +9,7 @@
 /// Whole answers of the commands that look for prices, compared with the files in golden/.
 
 #include "command_run.h"
+#include "folders.h"
 
 namespace {
 
@@ -81,7 +82,7 @@ constexpr RefusedRow kRefused[] = {
 
 std::string golden(const std::string& file) {
   std::stringstream content;
-  content << std::ifstream(std::string(GOLDEN_FOLDER) + "/" + file).rdbuf();
+  content << std::ifstream(kSourceFolder + std::string("/tests/cli/golden/") + file).rdbuf();
   return content.str();
 }
 

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "folders.h"
 #include "help_page.h"
 #include "language_library.h"
 #include "string_table.h"
@@ -22,7 +23,7 @@ TEST_P(HelpCaptions, AreThoseOfTheProgram) {
   const Element page = parsePage(sourceOf(GetParam()));
   const bool isGerman = std::string(GetParam().language) == "de";
   const auto german =
-      Localization::loadLanguageLibrary(QStringLiteral(LANGUAGE_FOLDER "/TessaloomLang407.dll"));
+      Localization::loadLanguageLibrary(kProgramFolder + QStringLiteral("/TessaloomLang407.dll"));
   ASSERT_TRUE(german);
   const auto captions = elementsWith(page, "data-text");
   EXPECT_GT(captions.size(), 200U);

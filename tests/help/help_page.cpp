@@ -5,6 +5,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "folders.h"
+
 namespace {
 
 bool isBlank(char c) { return c == ' ' || c == '\n' || c == '\t' || c == '\r'; }
@@ -120,7 +122,7 @@ const std::vector<HelpPage>& helpPages() {
 }
 
 std::string sourceOf(const HelpPage& page) {
-  std::ifstream file(std::string(HELP_FOLDER "/") + page.file, std::ios::binary);
+  std::ifstream file(kSourceFolder + std::string("/help/") + page.file, std::ios::binary);
   if (!file) throw PageError(std::string(page.file) + " cannot be read");
   return {std::istreambuf_iterator<char>(file), {}};
 }

@@ -1,4 +1,5 @@
 #include "language_choice.h"
+#include "folders.h"
 
 #include <gtest/gtest.h>
 
@@ -93,7 +94,7 @@ class ChoiceOfLanguage : public ::testing::Test {
 
  private:
   void add(const QString& source, const QString& name) {
-    ASSERT_TRUE(QFile::copy(QDir(QStringLiteral(LANGUAGE_FOLDER)).filePath(source), pathOf(name)))
+    ASSERT_TRUE(QFile::copy(QDir(QString::fromUtf8(kProgramFolder)).filePath(source), pathOf(name)))
         << name.toStdString();
   }
 };

@@ -1,4 +1,5 @@
 #include "language_library.h"
+#include "folders.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -59,7 +60,7 @@ QByteArray contentOf(const QString& path) {
 }
 
 QString shipped(const char* code) {
-  return QStringLiteral(LANGUAGE_FOLDER "/TessaloomLang") + QString::fromLatin1(code) +
+  return kProgramFolder + QStringLiteral("/TessaloomLang") + QString::fromLatin1(code) +
          QStringLiteral(".dll");
 }
 

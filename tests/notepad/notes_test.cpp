@@ -1,4 +1,5 @@
 #include "notes.h"
+#include "folders.h"
 
 #include <gtest/gtest.h>
 
@@ -51,14 +52,14 @@ class NotepadEntry : public ::testing::Test {
   void TearDown() override { Localization::setLanguageObject(nullptr); }
 
   static void speak(const QString& library) {
-    auto texts = Localization::loadLanguageLibrary(QDir(QStringLiteral(LANGUAGE_FOLDER)).filePath(library));
+    auto texts = Localization::loadLanguageLibrary(QDir(QString::fromUtf8(kProgramFolder)).filePath(library));
     ASSERT_NE(texts, nullptr) << library.toStdString();
     Localization::setLanguageObject(std::move(texts));
   }
 
   static std::string fileOf(const char* kind, const char* site, const char* language) {
     const QString name = QStringLiteral("%1_%2_%3.txt").arg(kind, site, language);
-    QFile file(QDir(QStringLiteral(ENTRY_FOLDER)).filePath(name));
+    QFile file(QDir(kSourceFolder + QStringLiteral("/tests/notepad/entries")).filePath(name));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
     return file.readAll().toStdString();
   }

@@ -13,6 +13,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include "folders.h"
 #include "language_library.h"
 #include "note_printer.h"
 #include "paged_surface.h"
@@ -164,7 +165,7 @@ TEST_P(Pdf, PrintsAWordOfTwoHundredCharactersInOneLine) {
 
 TEST_P(Pdf, SpeaksGerman) {
   Localization::setLanguageObject(Localization::loadLanguageLibrary(
-      QDir(QStringLiteral(LANGUAGE_FOLDER)).filePath(QStringLiteral("TessaloomLang407.dll"))));
+      QDir(QString::fromUtf8(kProgramFolder)).filePath(QStringLiteral("TessaloomLang407.dll"))));
   printWithDefaults(QStringLiteral("Angebotsgebühr: EUR0,50"));
   EXPECT_EQ(joined(linesOf(path(), 1)),
             joined({"Tessaloom-Notizen", "Angebotsgebühr: EUR0,50", "06.02.2003 Seite 1"}));

@@ -1,4 +1,5 @@
 #include "word_wrap.h"
+#include "folders.h"
 
 #include <gtest/gtest.h>
 
@@ -122,7 +123,7 @@ TEST_F(WordWrap, PrintsAnEmptyTextAsOnePage) {
 
 TEST_F(WordWrap, SpeaksTheLanguageOfTheMoment) {
   Localization::setLanguageObject(Localization::loadLanguageLibrary(
-      QDir(QStringLiteral(LANGUAGE_FOLDER)).filePath(QStringLiteral("TessaloomLang407.dll"))));
+      QDir(QString::fromUtf8(kProgramFolder)).filePath(QStringLiteral("TessaloomLang407.dll"))));
   lay(QString());
   EXPECT_EQ(around(1),
             (Shown{"1: 5103,600 Tessaloom-Notizen", "1: 720,16118 2/6/03", "1: 10486,16118 Seite 1"}));

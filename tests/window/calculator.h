@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "folders.h"
 #include "frmeBayFees.h"
 #include "recording_world.h"
 
@@ -13,7 +14,7 @@ class Calculator : public RecordingWorld {
  public:
   /// `languageFolder` is where the language libraries lie.
   explicit Calculator(NumberLocale locale = kPointLocale, int site = 1,
-                      const QString& languageFolder = QStringLiteral(LANGUAGE_FOLDER));
+                      const QString& languageFolder = QString::fromUtf8(kProgramFolder));
   ~Calculator();
 
   /// The window as it stands before it is loaded; `load` shows it.

@@ -4,6 +4,7 @@
 #include <QtTest>
 
 #include "calculator.h"
+#include "folders.h"
 
 namespace {
 
@@ -13,7 +14,7 @@ struct Row {
 };
 
 QList<Row> readRows() {
-  QFile file(QStringLiteral(SOURCE_FOLDER "/controls.tsv"));
+  QFile file(kSourceFolder + QStringLiteral("/tests/window/controls.tsv"));
   if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("controls.tsv cannot be read");
   QList<Row> rows;
   file.readLine();  // the headings

@@ -3,6 +3,7 @@
 #include <QtTest>
 
 #include "calculator.h"
+#include "folders.h"
 #include "tagged_strings.h"
 
 namespace {
@@ -180,7 +181,7 @@ QList<int> checkedLanguages(const Calculator& calculator) {
 void putLibraries(const QString& folder, const QStringList& codes) {
   for (const QString& code : codes) {
     const QString library = folder + QStringLiteral("/TessaloomLang") + code + QStringLiteral(".dll");
-    if (!QFile::copy(QStringLiteral(LANGUAGE_FOLDER "/TessaloomLang407.dll"), library))
+    if (!QFile::copy(kProgramFolder + QStringLiteral("/TessaloomLang407.dll"), library))
       throw std::runtime_error("no library could be put into " + folder.toStdString());
   }
 }
@@ -465,7 +466,7 @@ class LanguageSwitchTest : public QObject {
     QFETCH(bool, hasLibraries);
     QFETCH(QList<int>, checked);
     const QTemporaryDir empty;
-    Calculator calculator(kPointLocale, 1, hasLibraries ? QStringLiteral(LANGUAGE_FOLDER) : empty.path());
+    Calculator calculator(kPointLocale, 1, hasLibraries ? QString::fromUtf8(kProgramFolder) : empty.path());
     calculator.settings.values[QStringLiteral("Language")] = stored;
     calculator.languages.InitLanguage();
     calculator.load();

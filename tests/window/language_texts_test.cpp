@@ -4,12 +4,13 @@
 #include <QXmlStreamReader>
 
 #include "calculator.h"
+#include "folders.h"
 #include "language_library.h"
 #include "string_table.h"
 
 namespace {
 
-const QString kRoot = QStringLiteral(SOURCE_FOLDER "/../..");
+const QString kRoot = QString::fromUtf8(kSourceFolder);
 
 /// One entry of a translator's file.
 struct Entry {
@@ -52,7 +53,7 @@ QList<int> shownIds() {
 /// The library of a language, as the program loads it.
 std::unique_ptr<Localization::LanguageResources> library(const QString& code) {
   auto loaded =
-      Localization::loadLanguageLibrary(QStringLiteral(LANGUAGE_FOLDER "/TessaloomLang%1.dll").arg(code));
+      Localization::loadLanguageLibrary((kProgramFolder + QStringLiteral("/TessaloomLang%1.dll")).arg(code));
   if (!loaded) throw std::runtime_error("a language library cannot be loaded");
   return loaded;
 }

@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <utility>
 
+#include "folders.h"
 #include "recording_surface.h"
 #include "surroundings.h"
 #include "tagged_strings.h"
@@ -132,7 +133,7 @@ inline const NumberLocale kFrenchLocale{",", "\u202F", "€"};
 /// What a language choice needs, with the libraries that the build has made.
 inline Localization::LanguageSurroundings builtLanguages(
     SettingsStore& settings, MessageBox& messages, const QString& userCode = QStringLiteral("409"),
-    const QString& folder = QStringLiteral(LANGUAGE_FOLDER)) {
+    const QString& folder = QString::fromUtf8(kProgramFolder)) {
   return {.settings = settings,
           .messages = messages,
           .programFolder = folder,
@@ -143,7 +144,7 @@ inline Localization::LanguageSurroundings builtLanguages(
 /// All of them together.
 struct RecordingWorld {
   /// `languageFolder` is where the language libraries lie.
-  explicit RecordingWorld(const QString& languageFolder = QStringLiteral(LANGUAGE_FOLDER))
+  explicit RecordingWorld(const QString& languageFolder = QString::fromUtf8(kProgramFolder))
       : languages(builtLanguages(settings, messages, QStringLiteral("409"), languageFolder)) {}
 
   Surroundings surroundings() { return surroundingsWith(settings, printer); }

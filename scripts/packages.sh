@@ -1,8 +1,9 @@
 # shellcheck shell=bash disable=SC2034 # the lists are for those who source this
 # Sourced by run, test and .ci/run: installs the Debian packages that are missing, and says so.
 
-# What building and running the calculator and the command need; links are opened by xdg-utils.
-RUN_PACKAGES=(cmake ninja-build g++ qt6-base-dev qt6-tools-dev qt6-l10n-tools libcups2-dev librsvg2-bin
+# What building and running the calculator and the command need; links are opened by xdg-utils. The compiler's cache
+# and the fast linker may be absent elsewhere.
+RUN_PACKAGES=(cmake ninja-build g++ ccache mold qt6-base-dev qt6-tools-dev qt6-l10n-tools libcups2-dev librsvg2-bin
   libcli11-dev libfmt-dev nlohmann-json3-dev xdg-utils)
 
 # What a virtual display needs: the server, a window manager, the questions asked to both, the screenshot.
@@ -15,8 +16,9 @@ TEST_PACKAGES=(libgtest-dev libbenchmark-dev libcsv-dev xclip
   cups-daemon cups-client cups-filters printer-driver-cups-pdf poppler-utils
   fish groff-base openssl strace tidy time zsh)
 
-# What .ci/run needs beyond that: the fuzz targets' compiler, format, tidy and script checks.
-CI_PACKAGES=(clang libclang-rt-14-dev clang-format clang-tidy shellcheck git)
+# What .ci/run needs beyond that: the fuzz targets' compiler, format, tidy (the headers of Clang let it look at our own
+# code alone) and script checks.
+CI_PACKAGES=(clang libclang-rt-14-dev clang-format clang-tidy libclang-14-dev llvm-14-dev python3 shellcheck git)
 
 # What .ci/run needs to build for Windows and to run that: the compiler, Windows, the sources of the test library.
 WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix wine64 libgtest-dev)

@@ -6,5 +6,6 @@ run_tests() (
   private=$(mktemp -d)
   trap 'rm -rf "$private"' EXIT
   export XDG_CONFIG_HOME=$private/config XDG_DATA_HOME=$private/data XDG_STATE_HOME=$private/state
-  ctest --preset "$1" --parallel "${JOBS:-$(nproc)}" --no-tests=error --no-label-summary
+  # Twice as many as there are cores: the longer half of them mostly waits, for windows, servers and processes.
+  ctest --preset "$1" --parallel $((${JOBS:-$(nproc)} * 2)) --no-tests=error --no-label-summary
 )

@@ -10,7 +10,7 @@
 
 namespace {
 
-const QString kRoot = QString::fromUtf8(kSourceFolder);
+QString root() { return QString::fromUtf8(kSourceFolder); }
 
 /// One entry of a translator's file.
 struct Entry {
@@ -20,7 +20,7 @@ struct Entry {
 };
 
 QList<Entry> readEntries(const QString& code) {
-  QFile file(kRoot + QStringLiteral("/languages/TessaloomLang%1.ts").arg(code));
+  QFile file(root() + QStringLiteral("/languages/TessaloomLang%1.ts").arg(code));
   if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("a translator's file cannot be read");
   QList<Entry> entries;
   QXmlStreamReader xml(&file);
@@ -122,7 +122,7 @@ QStringList reachedFrom(Calculator& calculator, int tab) {
 
 QStringList filesIn(const QString& folder, const QStringList& patterns) {
   QStringList paths;
-  QDirIterator files(kRoot + u'/' + folder, patterns, QDir::Files, QDirIterator::Subdirectories);
+  QDirIterator files(root() + u'/' + folder, patterns, QDir::Files, QDirIterator::Subdirectories);
   while (files.hasNext()) paths << files.next();
   return paths;
 }

@@ -154,6 +154,7 @@ class frmeBayFees : public QMainWindow {
   [[nodiscard]] SingleItemBoxes singleItemBoxes() const;
   void showSingleItemBoxes(const SingleItemBoxes& boxes);
   void chkDidNotSell_Click();
+  void cboExtraPhotos_Click();
   void chkGallery_Click();
   void chkMotors_Click();
   void cboSingleItemType_Click();
@@ -205,6 +206,9 @@ class frmeBayFees : public QMainWindow {
   void showTextsOfSite();
   void recalculateAllTabs();
   void SaveConversionRate();
+  void showRate(const QString& stored);
+  /// As it is stored.
+  [[nodiscard]] QString rate() const;
   [[nodiscard]] int currentSite() const;
   void refreshSiteFeatures();
   void SetRealEstateAvailable(bool isAvailable);

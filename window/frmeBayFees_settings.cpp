@@ -107,10 +107,10 @@ SettingAccess frmeBayFees::creditCard() {
 SettingAccess frmeBayFees::rateOf(int site) {
   return {[this, site]() -> std::optional<QString> {
             if (currentSite() != site) return std::nullopt;
-            return m_payment.txtConversion->text();
+            return rate();
           },
           [this, site](const QString& text) {
-            if (currentSite() == site) m_payment.txtConversion->setText(text);
+            if (currentSite() == site) showRate(text);
           }};
 }
 

@@ -28,9 +28,8 @@ void frmeBayFees::connectSingleItemTab() {
         m_single.chkTenDayAuction, m_single.chkTwoCategories}) {
     on(box, &QCheckBox::toggled, &frmeBayFees::recalculateSingleItemTab);
   }
-  for (QComboBox* list : {m_single.cboExtraPhotos, m_single.cboRealEstateType}) {
-    on(list, &QComboBox::currentIndexChanged, &frmeBayFees::recalculateSingleItemTab);
-  }
+  on(m_single.cboRealEstateType, &QComboBox::currentIndexChanged, &frmeBayFees::recalculateSingleItemTab);
+  on(m_single.cboExtraPhotos, &QComboBox::currentIndexChanged, &frmeBayFees::cboExtraPhotos_Click);
   onChosen(
       {m_single.optMotorcycle, m_single.optOtherVehicle, m_single.optTimeshare, m_single.optOtherRealEstate},
       &frmeBayFees::recalculateSingleItemTab);
@@ -105,6 +104,11 @@ void frmeBayFees::chkDidNotSell_Click() {
   m_single.txtPrice->setEnabled(!didNotSell);
   if (didNotSell) show(*m_single.txtPrice, withDecimalSymbol("0.00", m_surroundings.locale));
   recalculateSingleItemTab();
+}
+
+// While there is no calculator the prices are not even formatted, as they are for every other choice.
+void frmeBayFees::cboExtraPhotos_Click() {
+  if (m_regularAuction) recalculateSingleItemTab();
 }
 
 void frmeBayFees::chkGallery_Click() {

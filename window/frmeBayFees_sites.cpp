@@ -1,4 +1,5 @@
 #include "frmeBayFees.h"
+#include "stored_rate.h"
 #include "tagged_strings.h"
 
 using Localization::GetTagString;
@@ -82,7 +83,7 @@ void frmeBayFees::showSite(int site) {
                                        m_payment.lblCurrency14, m_payment.lblCheckRates}) {
     control->setVisible(!rateKey.isEmpty());
   }
-  if (!rateKey.isEmpty()) m_payment.txtConversion->setText(GetAppSetting(rateKey));
+  if (!rateKey.isEmpty()) showRate(GetAppSetting(rateKey));
 }
 
 void frmeBayFees::showTextsOfSite() {
@@ -94,9 +95,16 @@ void frmeBayFees::showTextsOfSite() {
 
 void frmeBayFees::SaveConversionRate() {
   const SiteRow* row = rowOf(currentSite());
-  const QString rate = m_payment.txtConversion->text();
-  if (row == nullptr || *row->rateKey == '\0' || rate.isEmpty()) return;
-  SaveAppSetting(QString::fromLatin1(row->rateKey), rate);
+  if (row == nullptr || *row->rateKey == '\0' || m_payment.txtConversion->text().isEmpty()) return;
+  SaveAppSetting(QString::fromLatin1(row->rateKey), rate());
+}
+
+void frmeBayFees::showRate(const QString& stored) {
+  show(*m_payment.txtConversion, rateFromStore(stored.toStdString(), m_surroundings.locale));
+}
+
+QString frmeBayFees::rate() const {
+  return QString::fromStdString(rateToStore(textOf(*m_payment.txtConversion), m_surroundings.locale));
 }
 
 int frmeBayFees::currentSite() const { return m_site ? m_site->Site() : 0; }

@@ -326,6 +326,15 @@ class SingleItemWindowTest : public QObject {
              QStringLiteral("0.00").replace(u'.', QString::fromStdString(locale.decimal)));
   }
 
+  void thePictureCountNeedsTheCalculator() {
+    m_calculator->trigger("mnuFileExit");  // from here on there is none
+    m_calculator->set("txtPrice", QStringLiteral("5"));
+    m_calculator->find<QComboBox>("cboExtraPhotos").setCurrentIndex(3);
+    QCOMPARE(m_calculator->shown("txtPrice"), QStringLiteral("5"));
+    m_calculator->find<QCheckBox>("chkBold").toggle();
+    QCOMPARE(m_calculator->shown("txtPrice"), QStringLiteral("5.00"));
+  }
+
  private:
   std::unique_ptr<Calculator> m_calculator;
 };

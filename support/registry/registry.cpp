@@ -130,7 +130,7 @@ bool encode(const RegistryValue& value, const Existing& existing, std::optional<
       data = textData(value);
       return true;
     case RegistryType::Binary:
-      data = byteData(value);
+      data = binaryData(value);
       return true;
     case RegistryType::Number:
       data = numberData(value, existing.size);
@@ -178,7 +178,7 @@ RegistryValue CRegistry::GetValue(RegistryHandle root, std::string_view keyPath,
   const OpenKey key(m_backend, root, keyPath, computer, kGetValue);
   Stored stored = read(m_backend, key.handle(), valueName);
   if (stored.type == RegistryType::Text) return stored.data.substr(0, stored.data.find('\0'));
-  if (stored.type == RegistryType::Binary) return std::move(stored.data);
+  if (stored.type == RegistryType::Binary) return bytesOfData(stored.data);
   const std::optional<std::int32_t> number = numberOfData(stored.data);
   if (stored.type != RegistryType::Number || !number) fail(kGetValue);
   return *number;

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include "registry_backend.h"
 
@@ -21,8 +23,13 @@ class RegistryError : public std::runtime_error {
   int m_number;
 };
 
-/// What is written or read: a text, or a 32-bit number. The bytes of a binary value are a text.
-using RegistryValue = std::variant<std::string, std::int32_t>;
+/// The content of a binary value.
+using RegistryBytes = std::vector<std::byte>;
+
+/// What is written or read: a text, a 32-bit number, or bytes. A text is a number where all of it but blanks
+/// at its ends is a whole number in ASCII digits, with or without a sign: " 7" and "+7" are, "7.6" is refused
+/// and not rounded.
+using RegistryValue = std::variant<std::string, std::int32_t, RegistryBytes>;
 
 /// Writes, reads, lists and deletes keys and values of the registry. `root` is a predefined key, `keyPath`
 /// the way from there, of which one leading "\" is dropped. With a `computer` the operation first connects to
@@ -36,13 +43,14 @@ class CRegistry {
   explicit CRegistry(RegistryBackend& backend) : m_backend(backend) {}
 
   /// Writes a new value as text, and an existing one in its own type: text, number, or as binary the decimal
-  /// text of a byte. A value of another type is left as it is. Always true; 11001 if the key cannot be
-  /// opened, the value does not fit the type, or the write fails.
+  /// text of a byte and its terminator. Bytes are as text the characters that they are, and as binary
+  /// themselves; they are no number. A value of another type is left as it is. Always true; 11001 if the key
+  /// cannot be opened, the value does not fit the type, or the write fails.
   bool SetValue(RegistryHandle root, std::string_view keyPath, const std::string& valueName,
                 const RegistryValue& value, const std::string& computer = {});
 
-  /// A text up to its first zero, a number, or all bytes of a binary value. 11002 if the value is missing or
-  /// has another type.
+  /// A text up to its first zero, a number, or all bytes of a binary value, but for the terminator that
+  /// SetValue puts behind the text of a byte. 11002 if the value is missing or has another type.
   [[nodiscard]] RegistryValue GetValue(RegistryHandle root, std::string_view keyPath,
                                        const std::string& valueName, const std::string& computer = {});
 

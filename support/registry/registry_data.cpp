@@ -14,20 +14,40 @@ std::string textOf(std::int32_t number) {
   return {digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr};
 }
 
-std::string textOf(const RegistryValue& value) {
-  const auto* number = std::get_if<std::int32_t>(&value);
-  return number ? textOf(*number) : std::get<std::string>(value);
+std::string textOf(const RegistryBytes& bytes) {
+  std::string text;
+  for (const std::byte byte : bytes) text.push_back(static_cast<char>(byte));
+  return text;
 }
 
-/// A text must be a whole number from its first character to its last.
-std::optional<std::int32_t> numberOf(const RegistryValue& value) {
-  if (const auto* number = std::get_if<std::int32_t>(&value)) return *number;
-  const auto& text = std::get<std::string>(value);
+std::string textOf(const std::string& text) { return text; }
+
+std::string textOf(const RegistryValue& value) {
+  return std::visit([](const auto& each) { return textOf(each); }, value);
+}
+
+std::string_view withoutOuterBlanks(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') + 1 - first);
+}
+
+std::optional<std::int32_t> numberOf(std::string_view text) {
+  text = withoutOuterBlanks(text);
+  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
   std::int32_t number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (error != std::errc() || end != text.data() + text.size()) return {};
   return number;
 }
+
+std::optional<std::int32_t> numberOf(const RegistryValue& value) {
+  if (const auto* number = std::get_if<std::int32_t>(&value)) return *number;
+  if (const auto* text = std::get_if<std::string>(&value)) return numberOf(std::string_view(*text));
+  return {};
+}
+
+bool isByte(std::int32_t number) { return number >= 0 && number <= std::numeric_limits<std::uint8_t>::max(); }
 
 std::string withTerminator(std::string text) {
   text.push_back('\0');
@@ -38,11 +58,22 @@ std::string withTerminator(std::string text) {
 
 std::string textData(const RegistryValue& value) { return withTerminator(textOf(value)); }
 
-std::optional<std::string> byteData(const RegistryValue& value) {
-  constexpr std::int32_t largestByte = 255;
+std::optional<std::string> binaryData(const RegistryValue& value) {
+  if (const auto* bytes = std::get_if<RegistryBytes>(&value)) return textOf(*bytes);
   const std::optional<std::int32_t> number = numberOf(value);
-  if (!number || *number < 0 || *number > largestByte) return {};
+  if (!number || !isByte(*number)) return {};
   return withTerminator(textOf(*number));
+}
+
+RegistryBytes bytesOfData(std::string_view data) {
+  if (data.ends_with('\0')) {
+    const std::string_view text = data.substr(0, data.size() - 1);
+    const std::optional<std::int32_t> number = numberOf(text);
+    if (number && isByte(*number) && textOf(*number) == text) data = text;
+  }
+  RegistryBytes bytes;
+  for (const char byte : data) bytes.push_back(static_cast<std::byte>(byte));
+  return bytes;
 }
 
 std::optional<std::string> numberData(const RegistryValue& value, std::uint32_t size) {

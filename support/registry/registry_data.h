@@ -14,8 +14,12 @@
 /// The text and its terminating zero.
 std::string textData(const RegistryValue& value);
 
-/// The decimal text of a byte and its terminating zero; nothing for what is no number from 0 to 255.
-std::optional<std::string> byteData(const RegistryValue& value);
+/// The decimal text of a byte and its terminating zero, or the bytes themselves; nothing for what is no
+/// number from 0 to 255.
+std::optional<std::string> binaryData(const RegistryValue& value);
+
+/// The bytes of a binary value, without the terminator that `binaryData` put there.
+RegistryBytes bytesOfData(std::string_view data);
 
 /// A 32-bit number, the lowest byte first whatever the processor's order is, in `size` bytes: what goes
 /// beyond the number is zero. Nothing for what is no such number.

@@ -262,8 +262,8 @@ TEST_F(RegistryConformance, AValueIsReadByItsType) {
   EXPECT_EQ(registry.GetValue(kUserRoot, key, "text"), RegistryValue("abc"));
   EXPECT_EQ(registry.GetValue(kUserRoot, key, "long text"), RegistryValue(std::string(300, 'x')));
   EXPECT_EQ(registry.GetValue(kUserRoot, key, "number"), RegistryValue(-2));
-  EXPECT_EQ(registry.GetValue(kUserRoot, key, "binary"), RegistryValue("\0\1\xFF\0"s));
-  EXPECT_EQ(registry.GetValue(kUserRoot, key, "long binary"), RegistryValue(std::string(100000, '\x80')));
+  EXPECT_EQ(registry.GetValue(kUserRoot, key, "binary"), RegistryValue(bytes("\0\1\xFF\0"s)));
+  EXPECT_TRUE(registry.GetValue(kUserRoot, key, "long binary") == RegistryValue(bytes(std::string(100000, '\x80'))));
   EXPECT_EQ(getError(key, "other"), "11002 clsRegistry GetValue");
 }
 

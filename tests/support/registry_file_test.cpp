@@ -213,7 +213,7 @@ TEST_F(RegistryFile, AHandwrittenFileIsUnderstood) {
   write(userRoot(R"("v": {"type": 1, "text": "Acme"})", ""));
   EXPECT_EQ(Fresh(file)->GetValue(kUserRoot, "", "v"), RegistryValue("Acme"));
   write(userRoot(R"("v": {"type": 3, "bytes": "00097fa0ff"})", ""));
-  EXPECT_EQ(Fresh(file)->GetValue(kUserRoot, "", "v"), RegistryValue("\x00\x09\x7F\xA0\xFF"s));
+  EXPECT_EQ(Fresh(file)->GetValue(kUserRoot, "", "v"), RegistryValue(bytes("\x00\x09\x7F\xA0\xFF"s)));
   write(
       R"({"values": {}, "keys": {"hkey_current_user": {"values": {}, "keys": {"A": {"values": {}, "keys": {}}}}}})");
   EXPECT_TRUE(Fresh(file)->KeyExists(kUserRoot, "a"));

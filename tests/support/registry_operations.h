@@ -4,6 +4,13 @@
 
 #include "registry.h"
 
+/// The content of a binary value, from the characters of its bytes.
+inline RegistryBytes bytes(const std::string& data) {
+  RegistryBytes result;
+  for (const char each : data) result.push_back(static_cast<std::byte>(each));
+  return result;
+}
+
 constexpr RegistryHandle kUserRoot = 0x80000001;
 
 /// One call of each operation, and the number of its error.

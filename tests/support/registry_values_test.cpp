@@ -37,6 +37,11 @@ const SetRow kSetRows[] = {
     {"the largest byte",                       RegistryType::Binary, "\1\2"s,                255,                "255\0"s},
     {"over 300 bytes",                         RegistryType::Binary, std::string(300, 'x'),  "255",              "255\0"s},
     {"over no bytes",                          RegistryType::Binary, "",                     "1",                "1\0"s},
+    {"bytes are written as they are",          RegistryType::Binary, "\1\2"s,                bytes("\0\xFF\0"s),  "\0\xFF\0"s},
+    {"bytes as text are its characters",       RegistryType::Text,   "old\0"s,               bytes("abc"s),         "abc\0"s},
+    {"blanks around a byte do not count",      RegistryType::Binary, "\1\2"s,                " 7 ",              "7\0"s},
+    {"blanks around a number do not count",    RegistryType::Number, "\0\0\0\0"s,            " 7",               "\7\0\0\0"s},
+    {"a plus is a sign",                       RegistryType::Number, "\0\0\0\0"s,            "+7",               "\7\0\0\0"s},
     {"a number, the lowest byte first",        RegistryType::Number, "\0\0\0\0"s,            0x12345678,         "\x78\x56\x34\x12"s},
     {"the text of a number",                   RegistryType::Number, "\0\0\0\0"s,            "305419896",        "\x78\x56\x34\x12"s},
     {"a number below zero",                    RegistryType::Number, "\0\0\0\0"s,            -2,                 "\xFE\xFF\xFF\xFF"s},
@@ -79,14 +84,20 @@ const RefusedRow kRefusedRows[] = {
     {"no byte: letters",                 RegistryType::Binary, "abc"},
     {"no byte: nothing",                 RegistryType::Binary, ""},
     {"no byte: a fraction",              RegistryType::Binary, "1.5"},
-    {"no byte: more behind the number",  RegistryType::Binary, "1 "},
+    {"no byte: more behind the number",  RegistryType::Binary, "1 2"},
+    {"no byte: two signs",               RegistryType::Binary, "+-0"},
+    {"no byte: a blank behind the sign", RegistryType::Binary, "+ 1"},
     {"no byte: a zero behind it",        RegistryType::Binary, "1\0"s},
     {"no number: one too many",          RegistryType::Number, "2147483648"},
     {"no number: one too few",           RegistryType::Number, "-2147483649"},
     {"no number: letters",               RegistryType::Number, "abc"},
     {"no number: nothing",               RegistryType::Number, ""},
     {"no number: hexadecimal",           RegistryType::Number, "0x10"},
-    {"no number: a plus",                RegistryType::Number, "+1"},
+    {"no number: a sign alone",          RegistryType::Number, "+"},
+    {"no number: blanks alone",          RegistryType::Number, "  "},
+    {"no number: a fraction",            RegistryType::Number, "7.6"},
+    {"no number: a fraction of zero",    RegistryType::Number, "7.0"},
+    {"no number: bytes",                 RegistryType::Number, bytes("\1\2\3\4"s)},
     {"no number: far too many digits",   RegistryType::Number, "99999999999999999999"},
 };
 // clang-format on
@@ -143,9 +154,12 @@ const GetRow kGetRows[] = {
     {"a number, the lowest byte first",        RegistryType::Number, "\x78\x56\x34\x12"s,     0x12345678},
     {"a number below zero",                    RegistryType::Number, "\xFE\xFF\xFF\xFF"s,     -2},
     {"a number in more bytes",                 RegistryType::Number, "\7\0\0\0\0\0\0\0"s,     7},
-    {"all bytes of a binary value",            RegistryType::Binary, "\0\1\xFF\0"s,           "\0\1\xFF\0"s},
-    {"no bytes",                               RegistryType::Binary, "",                      ""},
-    {"300 bytes",                              RegistryType::Binary, std::string(300, '\0'),  std::string(300, '\0')},
+    {"all bytes of a binary value",            RegistryType::Binary, "\0\1\xFF\0"s,           bytes("\0\1\xFF\0"s)},
+    {"no bytes",                               RegistryType::Binary, "",                      bytes("")},
+    {"300 bytes",                              RegistryType::Binary, std::string(300, '\0'),  bytes(std::string(300, '\0'))},
+    {"a byte's text without its terminator",   RegistryType::Binary, "255\0"s,                bytes("255")},
+    {"a zero that ends no byte's text stays",  RegistryType::Binary, "256\0"s,                bytes("256\0"s)},
+    {"two zeros are none of SetValue's",       RegistryType::Binary, "7\0\0"s,                bytes("7\0\0"s)},
 };
 // clang-format on
 
@@ -175,6 +189,19 @@ TEST(RegistryValues, AnotherTypeIsAnError) {
     CRegistry registry(backend);
     EXPECT_EQ(errorOf([&] { (void)registry.GetValue(kUserRoot, "A", "v"); }), "11002 clsRegistry GetValue")
         << row.rule;
+  }
+}
+
+TEST(RegistryValues, WhatWasJustWrittenIsReadBack) {
+  const std::pair<RegistryValue, RegistryValue> rows[] = {
+      {17, bytes("17")}, {"007", bytes("7")}, {bytes("\0\1"s), bytes("\0\1"s)}, {bytes(""), bytes("")}};
+  for (const auto& [written, read] : rows) {
+    RecordingRegistry backend;
+    backend.type = RegistryType::Binary;
+    CRegistry registry(backend);
+    registry.SetValue(kUserRoot, "A", "v", written);
+    backend.data = backend.written;
+    EXPECT_EQ(registry.GetValue(kUserRoot, "A", "v"), read);
   }
 }
 

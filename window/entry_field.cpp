@@ -1,6 +1,8 @@
 #include "entry_field.h"
 
+#include <algorithm>
 #include <QFocusEvent>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QTimer>
 #include <utility>
@@ -14,22 +16,29 @@ bool movesWithinTheWindow(Qt::FocusReason reason) {
          reason != Qt::MenuBarFocusReason;
 }
 
+std::u32string charactersOf(const QString& text) {
+  const QList<uint> characters = text.toUcs4();
+  return {characters.begin(), characters.end()};
+}
+
+/// Whether a box inserts what a key types. It does so for any key but with Control alone, or with Shift: what
+/// Alt or the Windows key comes with is no shortcut of anybody's by the time it is here, and is inserted.
+bool isInserted(const QKeyEvent& key) {
+  if (key.text().isEmpty()) return false;
+  const QChar first = key.text().front();
+  if (first.category() == QChar::Other_Format) return true;
+  if ((key.modifiers() & ~Qt::ShiftModifier) == Qt::ControlModifier) return false;
+  // A surrogate is not printable by itself but part of a character that is.
+  return first.isPrint() || first.isSurrogate() || first.category() == QChar::Other_PrivateUse;
+}
+
 /// The characters that a key event types, or the code of an editing key that is judged like one; empty for
-/// every other key: cursor keys, Delete, Enter, Escape, shortcuts and mnemonics go their way.
+/// every other key: cursor keys, Delete, Enter, Escape and shortcuts go their way.
 std::u32string judgedCharacters(const QKeyEvent& key) {
   if (key.matches(QKeySequence::Paste)) return {PasteKey};
   if (key.matches(QKeySequence::Copy)) return {CopyKey};
-  const QString text = key.text();
-  if (text == QChar(BackspaceKey)) return {BackspaceKey};
-  const Qt::KeyboardModifiers chord =
-      key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-  const bool isAltGr = chord == (Qt::ControlModifier | Qt::AltModifier);
-  if (text.isEmpty() || !text.front().isPrint() || (chord != Qt::NoModifier && !isAltGr)) {
-    // A surrogate is not printable by itself but part of a character that is.
-    if (text.isEmpty() || !text.front().isSurrogate()) return {};
-  }
-  const QList<uint> characters = text.toUcs4();
-  return {characters.begin(), characters.end()};
+  if (key.text() == QChar(BackspaceKey)) return {BackspaceKey};
+  return isInserted(key) ? charactersOf(key.text()) : std::u32string();
 }
 
 }  // namespace
@@ -44,6 +53,9 @@ bool EntryField::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress:
       if (isBarred(static_cast<const QKeyEvent&>(*event))) return true;
       break;
+    case QEvent::InputMethod:
+      dropBarred(static_cast<QInputMethodEvent&>(*event));
+      break;
     case QEvent::FocusIn:
       focusGained(static_cast<const QFocusEvent&>(*event));
       break;
@@ -57,20 +69,33 @@ bool EntryField::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool EntryField::isBarred(const QKeyEvent& key) {
-  for (const char32_t character : judgedCharacters(key)) {
-    const bool isWholeTextSelected = m_box.selectedText().size() == m_box.text().size();
-    const std::string text = m_box.text().toStdString();
-    switch (judgeKey(m_kind, character, text, isWholeTextSelected, m_locale)) {
-      case KeyVerdict::Swallow:
-        return true;
-      case KeyVerdict::PassAfterPoint:
-        m_box.setText(QStringLiteral("."));
-        break;
-      case KeyVerdict::Pass:
-        break;
-    }
+  const std::u32string characters = judgedCharacters(key);
+  return std::any_of(characters.begin(), characters.end(),
+                     [this](char32_t character) { return isBarred(character, {}); });
+}
+
+bool EntryField::isBarred(char32_t character, const QString& taken) {
+  const bool isAllSelected = m_box.selectedText().size() == m_box.text().size();
+  // What has been taken will stand where the selection was.
+  const QString text = (isAllSelected && !taken.isEmpty() ? QString() : m_box.text()) + taken;
+  switch (judgeKey(m_kind, character, text.toStdString(), isAllSelected && taken.isEmpty(), m_locale)) {
+    case KeyVerdict::Swallow:
+      return true;
+    case KeyVerdict::PassAfterPoint:
+      m_box.setText(QStringLiteral("."));
+      return false;
+    case KeyVerdict::Pass:
+      return false;
   }
   return false;
+}
+
+void EntryField::dropBarred(QInputMethodEvent& event) {
+  QString taken;
+  for (const char32_t character : charactersOf(event.commitString())) {
+    if (!isBarred(character, taken)) taken += QString::fromUcs4(&character, 1);
+  }
+  event.setCommitString(taken, event.replacementStart(), event.replacementLength());
 }
 
 void EntryField::focusGained(const QFocusEvent& focus) {

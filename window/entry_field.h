@@ -7,11 +7,12 @@
 #include "number_locale.h"
 
 class QFocusEvent;
+class QInputMethodEvent;
 class QKeyEvent;
 
-/// Watches one entry box: it keeps barred keys out, selects the text when the user comes to the box and tells
-/// when the user leaves it for another control of the window. What a changed or left box means is the
-/// window's business.
+/// Watches one entry box: it keeps barred characters out in whatever way they are typed, selects the
+/// text when the user comes to the box and tells when the user leaves it for another control of the window.
+/// What a changed or left box means is the window's business.
 class EntryField : public QObject {
   Q_OBJECT
 
@@ -28,6 +29,10 @@ class EntryField : public QObject {
  private:
   /// True if the key must not reach the box.
   bool isBarred(const QKeyEvent& key);
+  /// The same of one character, behind others of the same event that are already taken.
+  bool isBarred(char32_t character, const QString& taken);
+  /// What an input method, a dead key or Compose hands over is judged character by character.
+  void dropBarred(QInputMethodEvent& event);
   void focusGained(const QFocusEvent& focus);
   void focusLost(const QFocusEvent& focus);
 

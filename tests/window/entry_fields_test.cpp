@@ -113,6 +113,80 @@ class EntryFieldsTest : public QObject {
     QVERIFY(box.hasFocus());
   }
 
+  void aCharacterIsJudgedWhateverKeyItComesFrom_data() {
+    QTest::addColumn<QString>("box");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<QString>("held");
+    QTest::newRow("Alt and a letter") << "txtPrice" << int{Qt::Key_Z} << int{Qt::AltModifier} << "25";
+    QTest::newRow("Alt, Shift and a letter")
+        << "txtPrice" << int{Qt::Key_Z} << int{Qt::AltModifier | Qt::ShiftModifier} << "25";
+    QTest::newRow("the Windows key and a letter")
+        << "txtPrice" << int{Qt::Key_Z} << int{Qt::MetaModifier} << "25";
+    QTest::newRow("Control, Alt and a letter")
+        << "txtPrice" << int{Qt::Key_Z} << int{Qt::ControlModifier | Qt::AltModifier} << "25";
+    QTest::newRow("Alt and a digit") << "txtPrice" << int{Qt::Key_7} << int{Qt::AltModifier} << "257";
+    QTest::newRow("Alt and a letter among the items")
+        << "txtDutchItemsOffered" << int{Qt::Key_Q} << int{Qt::AltModifier} << "25";
+    QTest::newRow("Alt and a point among the items")
+        << "txtDutchItemsOffered" << int{Qt::Key_Period} << int{Qt::AltModifier} << "25";
+  }
+
+  void aCharacterIsJudgedWhateverKeyItComesFrom() {
+    QFETCH(QString, box);
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    QFETCH(QString, held);
+    m_calculator->find<QTabWidget>("SSTab1").setCurrentIndex(box == QStringLiteral("txtPrice") ? 0 : 1);
+    m_calculator->type(qPrintable(box), QStringLiteral("25"));
+    QTest::keyClick(&m_calculator->find<QLineEdit>(qPrintable(box)), static_cast<Qt::Key>(key),
+                    Qt::KeyboardModifiers(modifiers));
+    QCOMPARE(m_calculator->shown(qPrintable(box)), held);
+  }
+
+  void whatAnInputMethodHandsOverIsJudged_data() {
+    QTest::addColumn<QString>("stands");
+    QTest::addColumn<QString>("committed");
+    QTest::addColumn<QString>("held");
+    QTest::newRow("a dead accent and a letter") << "25" << QStringLiteral("é") << "25";
+    QTest::newRow("a digit") << "25"
+                             << "7"
+                             << "257";
+    QTest::newRow("a point, once") << "25"
+                                   << ".."
+                                   << "25.";
+    QTest::newRow("digits among letters") << "25"
+                                          << "a1b2"
+                                          << "2512";
+    QTest::newRow("a minus") << "25"
+                             << "-"
+                             << "25";
+    QTest::newRow("an amount into an empty box") << ""
+                                                 << "12.50"
+                                                 << "12.50";
+  }
+
+  void whatAnInputMethodHandsOverIsJudged() {
+    QFETCH(QString, stands);
+    QFETCH(QString, committed);
+    QFETCH(QString, held);
+    m_calculator->type("txtPrice", stands);
+    QInputMethodEvent event;
+    event.setCommitString(committed);
+    QCoreApplication::sendEvent(&m_calculator->find<QLineEdit>("txtPrice"), &event);
+    QCOMPARE(m_calculator->shown("txtPrice"), held);
+  }
+
+  void whatAnInputMethodHandsOverReplacesTheSelection() {
+    m_calculator->type("txtPrice", QStringLiteral("25"));
+    auto& box = m_calculator->find<QLineEdit>("txtPrice");
+    box.selectAll();
+    QInputMethodEvent event;
+    event.setCommitString(QStringLiteral("12.50.1"));
+    QCoreApplication::sendEvent(&box, &event);
+    QCOMPARE(box.text(), QStringLiteral("12.501"));
+  }
+
   void mnemonicsAreNoEntry() {
     m_calculator->type("txtPrice", QStringLiteral("12"));
     QTest::keyClick(&m_calculator->window(), Qt::Key_E, Qt::AltModifier);

@@ -121,6 +121,28 @@ class ControlsTest : public QObject {
     }
   }
 
+  void theExtrasOfMultipleItemsAreSeenInOrder() {
+    const QStringList rightColumn{"chkDutchGreatGift",       "chkDutchBold",    "chkDutchHighlight",
+                                  "chkDutchGalleryFeatured", "chkDutchGallery", "chkDutchHomePageFeatured",
+                                  "chkDutchFeaturedPlus"};
+    m_loaded.find<QTabWidget>("SSTab1").setCurrentIndex(1);
+    letItSettle();
+    const auto placeOf = [this](const QString& name) {
+      const auto& box = m_loaded.find<QWidget>(qPrintable(name));
+      return box.mapTo(&m_loaded.window(), QPoint(0, 0));
+    };
+    const QWidget* before = &m_loaded.find<QWidget>("chkDutchTenDayAuction");
+    QVERIFY(placeOf(rightColumn[0]).x() > placeOf(QStringLiteral("chkDutchTenDayAuction")).x());
+    for (const QString& name : rightColumn) {
+      if (name != rightColumn[0])
+        QVERIFY2(placeOf(name).y() > placeOf(before->objectName()).y(), qPrintable(name));
+      const auto& box = m_loaded.find<QWidget>(qPrintable(name));
+      QCOMPARE(before->nextInFocusChain()->objectName(), name);
+      before = &box;
+    }
+    m_loaded.find<QTabWidget>("SSTab1").setCurrentIndex(0);
+  }
+
   void theFourTabsStandInOrder() {
     const auto& tabs = m_design.find<QTabWidget>("SSTab1");
     QCOMPARE(tabs.count(), 4);

@@ -59,6 +59,7 @@ struct NoStacking : KeepOnTop {
 };
 
 struct NoPrinter : NotePrinter {
+  [[nodiscard]] bool hasPrinter() override { return false; }
   std::unique_ptr<PageSurface> open(QWidget* /*parent*/, const QString& /*title*/) override {
     return nullptr;
   }

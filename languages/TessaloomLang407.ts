@@ -1608,5 +1608,10 @@
         <extracomment>Error; the address of a page or a mail follows.</extracomment>
         <translation>Diese Adresse konnte nicht geöffnet werden: </translation>
     </message>
+    <message id="5005">
+        <source>The notepad is empty. There is nothing to print.</source>
+        <extracomment>Message: File > Print Notepad while there is nothing in it.</extracomment>
+        <translation>Der Notizblock ist leer. Es gibt nichts zu drucken.</translation>
+    </message>
 </context>
 </TS>

@@ -1608,5 +1608,10 @@
         <extracomment>Error; the address of a page or a mail follows.</extracomment>
         <translation>Cette adresse n’a pas pu être ouverte : </translation>
     </message>
+    <message id="5005">
+        <source>The notepad is empty. There is nothing to print.</source>
+        <extracomment>Message: File > Print Notepad while there is nothing in it.</extracomment>
+        <translation>Le bloc-notes est vide. Il n’y a rien à imprimer.</translation>
+    </message>
 </context>
 </TS>

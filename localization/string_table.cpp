@@ -374,6 +374,7 @@ constexpr auto kTable = std::to_array<Row>({
     {5002, u"The fees are a fixed schedule built into this program. They are not the prices of today. Tessaloom has no connection with eBay or PayPal."},
     {5003, u"The help file was not found: "},
     {5004, u"This address could not be opened: "},
+    {5005, u"The notepad is empty. There is nothing to print."},
 });
 // clang-format on
 

@@ -77,6 +77,8 @@ std::unique_ptr<PageSurface> openPdf(const QString& path, const QString& title, 
   return openPdfFor(path, title, paper, [] {});
 }
 
+bool SystemPrinter::hasPrinter() { return !QPrinterInfo::defaultPrinter().isNull(); }
+
 std::unique_ptr<PageSurface> SystemPrinter::open(QWidget* parent, const QString& title) {
   const QPrinterInfo printer = QPrinterInfo::defaultPrinter();
   if (!printer.isNull())

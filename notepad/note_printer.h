@@ -14,6 +14,9 @@ class NotePrinter {
  public:
   virtual ~NotePrinter() = default;
 
+  /// Whether there is a printer. Where there is none, `open` asks for a file to print into.
+  [[nodiscard]] virtual bool hasPrinter() = 0;
+
   /// Opens a print job of that name. Nothing if the user decides against it. Throws PrintError.
   virtual std::unique_ptr<PageSurface> open(QWidget* parent, const QString& title) = 0;
 };
@@ -22,6 +25,7 @@ class NotePrinter {
 /// instead, with the given title as its proposed name.
 class SystemPrinter : public NotePrinter {
  public:
+  [[nodiscard]] bool hasPrinter() override;
   std::unique_ptr<PageSurface> open(QWidget* parent, const QString& title) override;
 };
 

@@ -1,4 +1,5 @@
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QLocale>
 #include <QScrollBar>
@@ -105,6 +106,13 @@ void frmeBayFees::cmdClearNotepad_Click() {
 }
 
 void frmeBayFees::cmdPrintNotepad_Click() {
+  // A printer puts title, date and page on a sheet for it; nobody is asked to name a file for that.
+  if (m_form.txtNotes->document()->isEmpty() && !m_surroundings.printer.hasPrinter()) {
+    m_surroundings.messages.showPlain(
+        this, QCoreApplication::applicationName(),
+        GetTagString(QStringLiteral("The notepad is empty. There is nothing to print.<5005>")));
+    return;
+  }
   const auto job = m_surroundings.printer.open(this, GetTagString(QStringLiteral("Tessaloom Notes<0668>")));
   if (!job) return;
   const BusyPointer hourglass;

@@ -1,5 +1,7 @@
 #include "frmAbout.h"
 
+#include <QCoreApplication>
+
 #include "program_version.h"
 #include "tagged_captions.h"
 #include "tagged_strings.h"
@@ -39,7 +41,8 @@ void frmAbout::lblEmail_MouseDown() {
 void frmAbout::cmdSysInfo_Click() {
   const QString program = m_surroundings.systemInformation.programPath();
   if (!program.isEmpty() && m_surroundings.programs.start(program)) return;
+  // The application's title: the window's own is as long as a sentence.
   m_surroundings.messages.showPlain(
-      this, windowTitle(),
+      this, QCoreApplication::applicationName(),
       GetTagString(QStringLiteral("System Information Is Unavailable At This Time<0505>")));
 }

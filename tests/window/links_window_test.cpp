@@ -742,6 +742,7 @@ class LinksWindowTest : public QObject {
     QCOMPARE(calculator.starter.started.size(), 1);
     QVERIFY(calculator.errors.shown.isEmpty());
     QCOMPARE(calculator.messages.shown.size(), 1);
+    QCOMPARE(calculator.messages.shown[0].first, QCoreApplication::applicationName());
     QCOMPARE(calculator.messages.shown[0].second, text);
   }
 

@@ -65,6 +65,7 @@ struct WatchedPrinter : NotePrinter {
   PrintRecord record;
   Steps steps;
 
+  [[nodiscard]] bool hasPrinter() override { return true; }
   std::unique_ptr<PageSurface> open(QWidget* /*parent*/, const QString& /*title*/) override {
     steps.opening();
     return std::make_unique<WatchedSurface>(record, steps);
@@ -360,6 +361,32 @@ class NotepadWindowTest : public QObject {
       lines.last() += text.text;
     }
     QCOMPARE(lines, kPayment.trimmed().split(u'\n'));
+  }
+
+  void anEmptyNotepadAsksForNoFile_data() {
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("English") << "English"
+                             << "The notepad is empty. There is nothing to print.";
+    QTest::newRow("German") << "German"
+                            << "Der Notizblock ist leer. Es gibt nichts zu drucken.";
+    QTest::newRow("French") << "French"
+                            << QStringLiteral("Le bloc-notes est vide. Il n’y a rien à imprimer.");
+  }
+
+  void anEmptyNotepadAsksForNoFile() {
+    QFETCH(QString, language);
+    QFETCH(QString, text);
+    m_calculator->speak(language);
+    m_calculator->printer.isThere = false;
+    m_calculator->trigger("mnuFilePrint");
+    QCOMPARE(m_calculator->printer.titles, QStringList());
+    QCOMPARE(m_calculator->messages.shown.size(), 1);
+    QCOMPARE(m_calculator->messages.shown[0].second, text);
+    box().setPlainText(QStringLiteral("ab"));
+    m_calculator->trigger("mnuFilePrint");
+    QCOMPARE(printed(), QStringList{"ab"});
+    QCOMPARE(m_calculator->messages.shown.size(), 1);
   }
 
   void anEmptyNotepadIsOnePage() {

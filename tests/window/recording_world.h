@@ -106,13 +106,16 @@ struct RecordingStacking : KeepOnTop {
 };
 
 /// Keeps what every job printed. `isWanted` false is a user who decides against it; `lastPage` is how many
-/// pages there is paper for.
+/// pages there is paper for; without `isThere`
+/// it asks for a file.
 struct RecordingPrinter : NotePrinter {
   QStringList titles;
   PrintRecord record;
+  bool isThere = true;
   bool isWanted = true;
   int lastPage = 1000;
 
+  [[nodiscard]] bool hasPrinter() override { return isThere; }
   std::unique_ptr<PageSurface> open(QWidget* /*parent*/, const QString& title) override {
     titles << title;
     record = {};

@@ -263,7 +263,8 @@ TEST_F(RegistryConformance, AValueIsReadByItsType) {
   EXPECT_EQ(registry.GetValue(kUserRoot, key, "long text"), RegistryValue(std::string(300, 'x')));
   EXPECT_EQ(registry.GetValue(kUserRoot, key, "number"), RegistryValue(-2));
   EXPECT_EQ(registry.GetValue(kUserRoot, key, "binary"), RegistryValue(bytes("\0\1\xFF\0"s)));
-  EXPECT_TRUE(registry.GetValue(kUserRoot, key, "long binary") == RegistryValue(bytes(std::string(100000, '\x80'))));
+  EXPECT_TRUE(registry.GetValue(kUserRoot, key, "long binary") ==
+              RegistryValue(bytes(std::string(100000, '\x80'))));
   EXPECT_EQ(getError(key, "other"), "11002 clsRegistry GetValue");
 }
 

@@ -34,6 +34,12 @@ if(TESSALOOM_SANITIZE)
     -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(house_rules INTERFACE -fsanitize=${TESSALOOM_SANITIZE})
 endif()
+
+# For what tests ask a million times, as at every price of a scan: unoptimised and watched, that takes minutes.
+set(TESSALOOM_COMPUTES "")
+if(TESSALOOM_SANITIZE AND CMAKE_BUILD_TYPE STREQUAL "Debug" AND NOT MSVC)
+  set(TESSALOOM_COMPUTES -O1)
+endif()
 if(TESSALOOM_COVERAGE)
   target_compile_options(house_rules INTERFACE --coverage)
   target_link_options(house_rules INTERFACE --coverage)

@@ -12,8 +12,17 @@ bool isWebAddress(const QString& address) {
          (scheme == QStringLiteral("http") || scheme == QStringLiteral("https"));
 }
 
+QString fullWebAddress(const QString& address) {
+  if (isWebAddress(address)) return address;
+  const QString full = QStringLiteral("https://") + address;
+  const bool isHost =
+      !address.isEmpty() && address.front().isLetterOrNumber() && QUrl(address).scheme().isEmpty();
+  return isHost && QUrl(full).host().contains(u'.') && isWebAddress(full) ? full : QString();
+}
+
 bool DesktopServices::openWeb(const QString& address) {
-  return isWebAddress(address) && QDesktopServices::openUrl(QUrl(address));
+  const QString full = fullWebAddress(address);
+  return !full.isEmpty() && QDesktopServices::openUrl(QUrl(full));
 }
 
 bool DesktopServices::openMail(const QString& mailLink) {

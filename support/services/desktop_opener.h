@@ -28,3 +28,7 @@ class DesktopServices : public DesktopOpener {
 
 /// Whether an address names a page of the web, by http or https.
 [[nodiscard]] bool isWebAddress(const QString& address);
+
+/// A web address as people write it, "www.harbour.example", with https in front; one that is whole as it
+/// stands. Nothing for what is none, and for any other scheme.
+[[nodiscard]] QString fullWebAddress(const QString& address);

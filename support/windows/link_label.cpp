@@ -86,6 +86,9 @@ LinkLabel::LinkLabel(QWidget* parent) : QLabel(parent) {
   setCursor(Qt::PointingHandCursor);
   setFocusPolicy(Qt::StrongFocus);
   setTextFormat(Qt::PlainText);
+  QFont underlined = font();
+  underlined.setUnderline(true);  // a link is told by more than its colour
+  setFont(underlined);
   showColour();
 }
 

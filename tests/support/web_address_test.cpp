@@ -46,4 +46,33 @@ TEST(WebAddress, IsHttpOrHttpsWithAHost) {
     EXPECT_EQ(isWebAddress(QString::fromUtf8(row.address)), row.isOfTheWeb) << row.rule;
 }
 
+struct WrittenRow {
+  const char* rule;
+  const char* written;
+  const char* full;
+};
+
+// clang-format off
+constexpr WrittenRow kWrittenRows[] = {
+    {"a host alone",                "www.harbour.example",        "https://www.harbour.example"},
+    {"a host without www",          "harbour.example",            "https://harbour.example"},
+    {"a host and a page",           "harbour.example/shop?a=b",   "https://harbour.example/shop?a=b"},
+    {"what is whole stays",         "http://harbour.example/",    "http://harbour.example/"},
+    {"a word is no host",           "harbour",                    ""},
+    {"a path is no host",           "/usr/bin.d/env",             ""},
+    {"an option is no host",        "--version.1",                ""},
+    {"another scheme is refused",   "ftp://harbour.example/",     ""},
+    {"a script is refused",         "javascript:alert(1.5)",      ""},
+    {"a path of Windows is refused", R"(C:\Windows\notepad.exe)", ""},
+    {"mail is refused",             "mailto:a@harbour.example",   ""},
+    {"a name in front is refused",  "a b.example",                ""},
+    {"nothing",                     "",                           ""},
+};
+// clang-format on
+
+TEST(WebAddress, IsCompletedWhereItIsAHost) {
+  for (const WrittenRow& row : kWrittenRows)
+    EXPECT_EQ(fullWebAddress(QString::fromUtf8(row.written)).toStdString(), row.full) << row.rule;
+}
+
 }  // namespace

@@ -1613,5 +1613,35 @@
         <extracomment>Message: File > Print Notepad while there is nothing in it.</extracomment>
         <translation>Le bloc-notes est vide. Il n’y a rien à imprimer.</translation>
     </message>
+    <message id="5006">
+        <source>Closing bid raised to the reserve price</source>
+        <extracomment>Status line: the closing bid was below the reserve.</extracomment>
+        <translation>Prix final porté au prix de réserve</translation>
+    </message>
+    <message id="5007">
+        <source>Closing bid raised to the opening bid</source>
+        <extracomment>Status line: the closing bid was below the opening bid.</extracomment>
+        <translation>Prix final porté au prix de départ</translation>
+    </message>
+    <message id="5008">
+        <source>Entry %1 added to the notepad</source>
+        <extracomment>Status line; %1 is the number of the entry.</extracomment>
+        <translation>Note %1 ajoutée</translation>
+    </message>
+    <message id="5009">
+        <source>Settings saved</source>
+        <extracomment>Status line: after Options &gt; Save Current Settings.</extracomment>
+        <translation>Réglages enregistrés</translation>
+    </message>
+    <message id="5010">
+        <source>Enter the opening bid</source>
+        <extracomment>Status line: Calculate was pressed without an opening bid.</extracomment>
+        <translation>Entrez le prix de départ</translation>
+    </message>
+    <message id="5011">
+        <source>Copied</source>
+        <extracomment>Status line: the notepad or the total is in the clipboard.</extracomment>
+        <translation>Copié</translation>
+    </message>
 </context>
 </TS>

@@ -375,6 +375,12 @@ constexpr auto kTable = std::to_array<Row>({
     {5003, u"The help file was not found: "},
     {5004, u"This address could not be opened: "},
     {5005, u"The notepad is empty. There is nothing to print."},
+    {5006, u"Closing bid raised to the reserve price"},
+    {5007, u"Closing bid raised to the opening bid"},
+    {5008, u"Entry %1 added to the notepad"},
+    {5009, u"Settings saved"},
+    {5010, u"Enter the opening bid"},
+    {5011, u"Copied"},
 });
 // clang-format on
 

@@ -21,6 +21,9 @@ class CNotes {
                                         const QString& totalFees, const QString& feesPerItem,
                                         const CAuctionSite& site);
 
+  /// The number of the last entry; 0 before the first.
+  [[nodiscard]] int lastNumber() const { return m_counter; }
+
   /// The next entry is number 1 again.
   void ResetCounter() { m_counter = 0; }
 

@@ -16,6 +16,11 @@ bool movesWithinTheWindow(Qt::FocusReason reason) {
          reason != Qt::MenuBarFocusReason;
 }
 
+bool isReturn(const QKeyEvent& key) {
+  return (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) &&
+         (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
 std::u32string charactersOf(const QString& text) {
   const QList<uint> characters = text.toUcs4();
   return {characters.begin(), characters.end()};
@@ -51,6 +56,10 @@ EntryField::EntryField(QLineEdit& box, EntryKind kind, NumberLocale locale)
 bool EntryField::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress:
+      if (isReturn(static_cast<const QKeyEvent&>(*event))) {
+        emit confirmed();
+        return true;
+      }
       if (isBarred(static_cast<const QKeyEvent&>(*event))) return true;
       break;
     case QEvent::InputMethod:

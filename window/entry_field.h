@@ -11,8 +11,8 @@ class QInputMethodEvent;
 class QKeyEvent;
 
 /// Watches one entry box: it keeps barred characters out in whatever way they are typed, selects the
-/// text when the user comes to the box and tells when the user leaves it for another control of the window.
-/// What a changed or left box means is the window's business.
+/// text when the user comes to the box and tells when the user confirms it, or leaves it for another control
+/// of the window. What a changed or left box means is the window's business.
 class EntryField : public QObject {
   Q_OBJECT
 
@@ -22,6 +22,8 @@ class EntryField : public QObject {
  signals:
   /// The focus went to another control of the same window: not to a menu, a popup or another window.
   void left();
+  /// Return was pressed: what stands in the box counts, and the user stays.
+  void confirmed();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

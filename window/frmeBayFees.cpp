@@ -1,10 +1,13 @@
 #include "frmeBayFees.h"
 
+#include <QActionGroup>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QFontDatabase>
+
+#include "tagged_strings.h"
 
 namespace {
 
@@ -47,6 +50,7 @@ frmeBayFees::frmeBayFees(Surroundings surroundings) : m_surroundings(std::move(s
   connectTabs();
   connectEntryFields();
   connectLinks();
+  prepareKeyboard();
 }
 
 frmeBayFees::~frmeBayFees() = default;
@@ -80,6 +84,7 @@ void frmeBayFees::prepareMenus() {
         m_form.mnuHelpSourcesDiv3, m_form.mnuHelpSourcesDiv, m_form.mnuHelpSourcesDiv2}) {
     separator->setSeparator(true);
   }
+  m_languageGroup = new QActionGroup(this);
   for (int index = 0; index < kLanguagePlaces; ++index) addLanguagePlace();
 }
 
@@ -118,6 +123,7 @@ void frmeBayFees::Form_Load() {
     restoreSettings();
   });
   m_single.txtStartingPrice->setFocus();
+  m_single.txtStartingPrice->selectAll();  // a price typed now replaces the stored one
   fitSize();
   QMainWindow::show();
 }
@@ -211,6 +217,10 @@ void frmeBayFees::onChosen(std::initializer_list<QRadioButton*> options, void (f
       if (isChosen) guarded([this, handler] { (this->*handler)(); });
     });
   }
+}
+
+void frmeBayFees::say(const QString& taggedText) {
+  m_form.lblStatus->say(Localization::GetTagString(taggedText));
 }
 
 void frmeBayFees::show(QLineEdit& box, const std::string& text) {

@@ -24,6 +24,7 @@
 #include "ui_single_item_tab.h"
 
 class EntryField;
+class QActionGroup;
 struct Setting;
 struct SettingAccess;
 
@@ -35,6 +36,7 @@ struct SettingAccess;
 ///   frmeBayFees.cpp                 loading, unloading, menus File and Options, size
 ///   frmeBayFees_captions.cpp        texts of the current language, menu of the languages
 ///   frmeBayFees_entry_fields.cpp    what happens when an entry box changes or is left
+///   frmeBayFees_keyboard.cpp        keys, where the focus goes, the tab key's stops
 ///   frmeBayFees_links.cpp           the menu Help, and the labels that open a page
 ///   frmeBayFees_lists.cpp           the items of the lists
 ///   frmeBayFees_multiple_items.cpp  the Multiple Items tab
@@ -105,6 +107,7 @@ class frmeBayFees : public QMainWindow {
   // Entry fields (frmeBayFees_entry_fields.cpp)
   struct EntryRow;
   void connectEntryFields();
+  void confirm(const EntryRow& row);
   void entryChanged(const EntryRow& row);
   void raiseToGermanMinimum();
   [[nodiscard]] bool isNumber(const QLineEdit& box) const;
@@ -116,6 +119,20 @@ class frmeBayFees : public QMainWindow {
   void leaveDutchFinalPrice();
   void leaveDutchItemsOffered();
   void leavePaymentAmount();
+
+  // Keyboard (frmeBayFees_keyboard.cpp)
+  struct Page;
+  [[nodiscard]] std::vector<Page> pages() const;
+  [[nodiscard]] Page pageInFront() const;
+  void prepareKeyboard();
+  void stepToTheChosen(QRadioButton& first, QRadioButton& second);
+  void openPage();
+  void markDefaultButton(const QWidget* before, const QWidget* now);
+  void prepareShortcuts();
+  void settleFocusedBox();
+  void clearPage();
+  void addPageToNotes();
+  void copyTotal();
 
   // Links (frmeBayFees_links.cpp)
   void connectLinks();
@@ -149,7 +166,9 @@ class frmeBayFees : public QMainWindow {
 
   // Single Item tab (frmeBayFees_single_item.cpp)
   void connectSingleItemTab();
+  void cmdCalculate_Click();
   void recalculateSingleItemTab();
+  [[nodiscard]] bool isRaisedToOpening(const SingleItemBoxes& entered) const;
   [[nodiscard]] SingleItemChoices singleItemChoices() const;
   [[nodiscard]] SingleItemBoxes singleItemBoxes() const;
   void showSingleItemBoxes(const SingleItemBoxes& boxes);
@@ -216,6 +235,8 @@ class frmeBayFees : public QMainWindow {
   void HighlightShippingCountries();
 
   // Helpers of all files
+  /// Tells what has just happened, in the line under the tabs.
+  void say(const QString& taggedText);
   /// Runs a handler. An error in it is reported and ends there: the program goes on.
   template <typename Handler>
   void guarded(Handler&& handler) noexcept;
@@ -239,6 +260,7 @@ class frmeBayFees : public QMainWindow {
   Ui::PaymentServicesTab m_payment;
   Ui::ShippingTab m_shipping;
   std::vector<QAction*> m_mnuLang;
+  QActionGroup* m_languageGroup = nullptr;
   TaggedCaptions m_captions;
   bool m_notepadVisible = false;
   bool m_isUnloaded = false;

@@ -1,3 +1,5 @@
+#include <QActionGroup>
+
 #include "caption_order.h"
 #include "frmeBayFees.h"
 #include "start.h"
@@ -9,6 +11,7 @@ void frmeBayFees::captureCaptions() { m_captions.capture(*this, captionOrder());
 
 void frmeBayFees::applyCaptions() {
   m_captions.apply();
+  m_form.lblStatus->say({});  // it was said in another language
   applyBrand();
   fillLists();
   showTextsOfState();
@@ -62,6 +65,7 @@ void frmeBayFees::addLanguagePlace() {
   entry->setObjectName(QStringLiteral("mnuLang_%1").arg(index));
   entry->setCheckable(true);
   entry->setVisible(false);
+  m_languageGroup->addAction(entry);
   connect(entry, &QAction::triggered, this,
           [this, index] { guarded([this, index] { mnuLang_Click(index); }); });
   m_mnuLang.push_back(entry);

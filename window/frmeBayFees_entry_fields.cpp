@@ -7,30 +7,41 @@ struct frmeBayFees::EntryRow {
   EntryKind kind;
   QLineEdit* clearedWhenNegative;
   void (frmeBayFees::*leave)();
+  QPushButton* calculate;  ///< of the box's tab
 };
 
 void frmeBayFees::connectEntryFields() {
   const auto rows = std::to_array<EntryRow>({
       {m_single.txtStartingPrice, EntryKind::Money, m_single.txtStartingPrice,
-       &frmeBayFees::leaveStartingPrice},
-      {m_single.txtPrice, EntryKind::Money, m_single.txtPrice, &frmeBayFees::leavePrice},
+       &frmeBayFees::leaveStartingPrice, m_single.cmdCalculate},
+      {m_single.txtPrice, EntryKind::Money, m_single.txtPrice, &frmeBayFees::leavePrice,
+       m_single.cmdCalculate},
       {m_multiple.txtDutchOpeningPrice, EntryKind::Money, m_multiple.txtDutchOpeningPrice,
-       &frmeBayFees::leaveDutchOpeningPrice},
+       &frmeBayFees::leaveDutchOpeningPrice, m_multiple.cmdDutchCalculate},
       // A negative lowest bid clears the single item's opening bid, not itself; see leaveDutchFinalPrice.
       {m_multiple.txtDutchFinalPrice, EntryKind::Money, m_single.txtStartingPrice,
-       &frmeBayFees::leaveDutchFinalPrice},
+       &frmeBayFees::leaveDutchFinalPrice, m_multiple.cmdDutchCalculate},
       {m_multiple.txtDutchItemsOffered, EntryKind::Count, m_multiple.txtDutchItemsOffered,
-       &frmeBayFees::leaveDutchItemsOffered},
+       &frmeBayFees::leaveDutchItemsOffered, m_multiple.cmdDutchCalculate},
       {m_multiple.txtDutchItemsSold, EntryKind::Count, m_multiple.txtDutchItemsSold,
-       &frmeBayFees::DutchCalculate},
+       &frmeBayFees::DutchCalculate, m_multiple.cmdDutchCalculate},
       {m_payment.txtPaymentAmount, EntryKind::Money, m_payment.txtPaymentAmount,
-       &frmeBayFees::leavePaymentAmount},
+       &frmeBayFees::leavePaymentAmount, m_payment.cmdCalculatePaymentFees},
   });
   for (const EntryRow& row : rows) {
     auto* field = new EntryField(*row.box, row.kind, m_surroundings.locale);
     on(field, &EntryField::left, row.leave);
+    connect(field, &EntryField::confirmed, this, [this, row] { confirm(row); });
+    connect(row.box, &QLineEdit::textEdited, m_form.lblStatus, [this] { m_form.lblStatus->say({}); });
     connect(row.box, &QLineEdit::textChanged, this, [this, row] { guarded([&] { entryChanged(row); }); });
   }
+}
+
+// As if the box had been left, but the next price can be typed at once.
+void frmeBayFees::confirm(const EntryRow& row) {
+  guarded([&] { (this->*row.leave)(); });
+  row.calculate->click();
+  row.box->selectAll();
 }
 
 // Reads the box, not the signal's text: a change from within a change has already replaced that one.
@@ -77,8 +88,10 @@ void frmeBayFees::leavePrice() {
   } else if (valueOf(box) == 0.0) {
     show(box, withDecimalSymbol(hasReserve ? "$0.01" : "$0.00", m_surroundings.locale));
   }
-  if (!reserve.text().isEmpty() && hasReserve && valueOf(box) < valueOf(reserve)) box.setText(reserve.text());
+  const bool isBelowReserve = !reserve.text().isEmpty() && hasReserve && valueOf(box) < valueOf(reserve);
+  if (isBelowReserve) box.setText(reserve.text());
   recalculateSingleItemTab();
+  if (isBelowReserve) say(QStringLiteral("Closing bid raised to the reserve price<5006>"));
 }
 
 void frmeBayFees::leaveDutchOpeningPrice() {

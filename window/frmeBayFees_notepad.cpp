@@ -84,6 +84,8 @@ void frmeBayFees::addToNotes(const QString& entry) {
   caret.movePosition(QTextCursor::PreviousCharacter);
   box.setTextCursor(caret);
   box.verticalScrollBar()->setValue(box.verticalScrollBar()->maximum());
+  m_form.lblStatus->say(
+      GetTagString(QStringLiteral("Entry %1 added to the notepad<5008>")).arg(m_notes->lastNumber()));
 }
 
 // The box keeps one character for a line break; outside it takes two. As raw text, because the plain one has
@@ -96,7 +98,10 @@ QString frmeBayFees::notes() const {
   return text;
 }
 
-void frmeBayFees::cmdCopyNotepad_Click() { QGuiApplication::clipboard()->setText(notes()); }
+void frmeBayFees::cmdCopyNotepad_Click() {
+  QGuiApplication::clipboard()->setText(notes());
+  say(QStringLiteral("Copied<5011>"));
+}
 
 // The numbering of the entries goes on, and Ctrl+Z brings the text back.
 void frmeBayFees::cmdClearNotepad_Click() {

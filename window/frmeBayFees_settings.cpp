@@ -152,6 +152,7 @@ void frmeBayFees::mnuOptionsSaveSettings_Click() {
     if (const auto text = row.access.text()) values.append({QString::fromLatin1(row.key), *text});
   }
   m_surroundings.settings.writeAll(values);
+  say(QStringLiteral("Settings saved<5009>"));
 }
 
 QString frmeBayFees::GetAppSetting(const QString& key) { return m_surroundings.settings.read(key); }

@@ -13,7 +13,7 @@ void frmeBayFees::connectSingleItemTab() {
   on(m_single.cboSingleItemType, &QComboBox::currentIndexChanged, &frmeBayFees::cboSingleItemType_Click);
   on(m_single.cboIsReserve, &QComboBox::currentIndexChanged, &frmeBayFees::cboIsReserve_Click);
   on(m_single.cmdClearAll, &QPushButton::clicked, &frmeBayFees::cmdClearAll_Click);
-  on(m_single.cmdCalculate, &QPushButton::clicked, &frmeBayFees::recalculateSingleItemTab);
+  on(m_single.cmdCalculate, &QPushButton::clicked, &frmeBayFees::cmdCalculate_Click);
 
   // What shows or hides other controls refreshes the window before it recalculates.
   for (QCheckBox* box : {m_single.chkVehicle, m_single.chkRealEstate, m_single.chkExtraPhotos}) {
@@ -35,13 +35,30 @@ void frmeBayFees::connectSingleItemTab() {
       &frmeBayFees::recalculateSingleItemTab);
 }
 
+void frmeBayFees::cmdCalculate_Click() {
+  recalculateSingleItemTab();
+  if (m_single.txtStartingPrice->text().isEmpty()) say(QStringLiteral("Enter the opening bid<5010>"));
+}
+
 void frmeBayFees::recalculateSingleItemTab() {
-  SingleItemBoxes boxes = singleItemBoxes();
+  const SingleItemBoxes entered = singleItemBoxes();
+  SingleItemBoxes boxes = entered;
   calculateAndShow(
       [&] {
         recalculateSingleItem(singleItemChoices(), m_regularAuction.get(), m_surroundings.locale, boxes);
       },
       [&] { showSingleItemBoxes(boxes); });
+  if (isRaisedToOpening(entered)) say(QStringLiteral("Closing bid raised to the opening bid<5007>"));
+}
+
+// Without a reserve, a bid below the opening bid cannot have won. One that is empty or 0 is none.
+bool frmeBayFees::isRaisedToOpening(const SingleItemBoxes& entered) const {
+  const NumberLocale& locale = m_surroundings.locale;
+  if (m_single.cboIsReserve->currentIndex() != 0 || !isNumeric(entered.txtPrice, locale) ||
+      !isNumeric(entered.txtStartingPrice, locale))
+    return false;
+  const double closing = toDouble(entered.txtPrice, locale);
+  return closing > 0 && closing < toDouble(entered.txtStartingPrice, locale);
 }
 
 SingleItemChoices frmeBayFees::singleItemChoices() const {

@@ -1,3 +1,5 @@
+#include <QActionGroup>
+
 #include "frmeBayFees.h"
 #include "stored_rate.h"
 #include "tagged_strings.h"
@@ -40,7 +42,9 @@ const SiteRow* rowOf(int site) {
 }  // namespace
 
 void frmeBayFees::connectSiteMenu() {
+  auto* onlyOne = new QActionGroup(this);  // and its mark says so
   for (const SiteRow& row : kSites) {
+    onlyOne->addAction(m_form.*row.menuItem);
     connect(m_form.*row.menuItem, &QAction::triggered, this,
             [this, site = row.site] { guarded([this, site] { SelectSite(site); }); });
   }

@@ -28,6 +28,7 @@ frmAbout::frmAbout(QWidget* parent, const AboutSurroundings& surroundings)
   layout()->setSizeConstraint(QLayout::SetFixedSize);
   connect(m_form.lblEmail, &LinkLabel::pressed, this, &frmAbout::lblEmail_MouseDown);
   connect(m_form.cmdSysInfo, &QPushButton::clicked, this, &frmAbout::cmdSysInfo_Click);
+  m_form.cmdOK->setFocus();  // Return closes the window, and opens no page
   connect(m_form.cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 }
 

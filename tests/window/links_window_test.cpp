@@ -679,6 +679,19 @@ class LinksWindowTest : public QObject {
     QCOMPARE(*met, 1);
   }
 
+  void returnClosesAbout() {
+    Calculator calculator;
+    open(calculator, QStringLiteral("English"));
+    const auto met = inNextModal([&](QWidget& about) {
+      QVERIFY(QTest::qWaitForWindowActive(&about));
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+      QVERIFY(!about.isVisible());
+    });
+    calculator.trigger("mnuHelpAbout");
+    QCOMPARE(*met, 1);
+    QCOMPARE(calculator.desktop.opened, QStringList());
+  }
+
   void aboutOpensTheHomepageByKeys() {
     Calculator calculator;
     open(calculator, QStringLiteral("English"));

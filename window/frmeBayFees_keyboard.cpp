@@ -30,10 +30,6 @@ frmeBayFees::Page frmeBayFees::pageInFront() const {
 
 void frmeBayFees::prepareKeyboard() {
   for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(true);  // Return presses it
-  // Results are read, not stepped through: the pointer and a screen reader reach them.
-  for (QLineEdit* box : findChildren<QLineEdit*>()) {
-    if (box->isReadOnly()) box->setFocusPolicy(Qt::ClickFocus);
-  }
   for (const auto& [first, second] :
        {std::pair(m_single.optMotorcycle, m_single.optOtherVehicle),
         std::pair(m_single.optTimeshare, m_single.optOtherRealEstate),

@@ -17,8 +17,8 @@ TAB_ORDER=(
   txtStartingPrice txtPrice chkDidNotSell cboSingleItemType cboIsReserve chkMotors chkVehicle optMotorcycle
   chkRealEstate chkSubTitleSingleItem chkListingDesigner chkScheduled chkSlideshow chkSupersizePhotos
   chkExtraPhotos cboExtraPhotos chkBIN chkTenDayAuction chkTwoCategories chkFeaturedCategory chkFeatured
-  chkGallery chkGalleryFeatured chkHighlighted chkBold chkGiftIcon txtInsertionFee txtExtras txtFVF txtFees
-  cmdCalculate cmdClearAll cmdAddRegularToNotes cmdNotepad cmdPrintNotepad cmdCopyNotepad cmdClearNotepad txtNotes SSTab1)
+  chkGallery chkGalleryFeatured chkHighlighted chkBold chkGiftIcon cmdCalculate cmdClearAll cmdAddRegularToNotes
+  txtInsertionFee txtExtras txtFVF txtFees cmdNotepad cmdPrintNotepad cmdCopyNotepad cmdClearNotepad txtNotes SSTab1)
 
 # What the Tab key passes by because it is disabled or hidden just now.
 declare -A UNREACHABLE=([chkVehicle]=1 [optMotorcycle]=1 [cboExtraPhotos]=1 [chkGalleryFeatured]=1

@@ -294,6 +294,7 @@ class ControlsTest : public QObject {
     const QList<std::pair<const char*, const char*>> expected{{"mnuFileNewWindow", "Ctrl+N"},
                                                               {"mnuFilePrint", "Ctrl+P"},
                                                               {"mnuFileExit", "Ctrl+Q"},
+                                                              {"mnuOptionsSaveSettings", "Ctrl+S"},
                                                               {"mnuHelpContents", "F1"}};
     for (const auto& [name, keys] : expected) {
       QCOMPARE(m_loaded.find<QAction>(name).shortcut(), QKeySequence(QString::fromLatin1(keys)));

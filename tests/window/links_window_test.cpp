@@ -684,7 +684,7 @@ class LinksWindowTest : public QObject {
     open(calculator, QStringLiteral("English"));
     const auto met = inNextModal([&](QWidget& about) {
       QVERIFY(QTest::qWaitForWindowActive(&about));
-      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+      QTest::keyClick(about.windowHandle(), Qt::Key_Return);
       QVERIFY(!about.isVisible());
     });
     calculator.trigger("mnuHelpAbout");

@@ -16,6 +16,10 @@ bool movesWithinTheWindow(Qt::FocusReason reason) {
          reason != Qt::MenuBarFocusReason;
 }
 
+bool isEditing(char32_t character) {
+  return character == PasteKey || character == CopyKey || character == BackspaceKey;
+}
+
 bool isReturn(const QKeyEvent& key) {
   return (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) &&
          (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
@@ -79,6 +83,14 @@ bool EntryField::eventFilter(QObject* watched, QEvent* event) {
 
 bool EntryField::isBarred(const QKeyEvent& key) {
   const std::u32string characters = judgedCharacters(key);
+  // A letter over the selected text empties the box. With Alt it was meant for something else: a mnemonic of
+  // another language, say.
+  const bool isAltGr = (key.modifiers() & Qt::ControlModifier) != Qt::NoModifier;
+  const bool isChord = (key.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != Qt::NoModifier && !isAltGr;
+  if (isChord && !characters.empty() && !isEditing(characters.front()) &&
+      judgeKey(m_kind, characters.front(), m_box.text().toStdString(), false, m_locale) ==
+          KeyVerdict::Swallow)
+    return true;
   return std::any_of(characters.begin(), characters.end(),
                      [this](char32_t character) { return isBarred(character, {}); });
 }

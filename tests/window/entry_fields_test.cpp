@@ -143,6 +143,19 @@ class EntryFieldsTest : public QObject {
     QCOMPARE(m_calculator->shown(qPrintable(box)), held);
   }
 
+  void aLetterWithAltLeavesTheSelectedTextAlone() {
+    m_calculator->type("txtPrice", QStringLiteral("25"));
+    auto& box = m_calculator->find<QLineEdit>("txtPrice");
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(box.selectedText(), QStringLiteral("25.00"));
+    QTest::keyClick(&box, Qt::Key_Z, Qt::AltModifier);
+    QCOMPARE(box.text(), QStringLiteral("25.00"));
+    QTest::keyClick(&box, Qt::Key_Z, Qt::MetaModifier);
+    QCOMPARE(box.text(), QStringLiteral("25.00"));
+    QTest::keyClick(&box, Qt::Key_7, Qt::AltModifier);
+    QCOMPARE(box.text(), QStringLiteral("7"));
+  }
+
   void whatAnInputMethodHandsOverIsJudged_data() {
     QTest::addColumn<QString>("stands");
     QTest::addColumn<QString>("committed");

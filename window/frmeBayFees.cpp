@@ -1,6 +1,7 @@
 #include "frmeBayFees.h"
 
 #include <QActionGroup>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
@@ -53,7 +54,11 @@ frmeBayFees::frmeBayFees(Surroundings surroundings) : m_surroundings(std::move(s
   prepareKeyboard();
 }
 
-frmeBayFees::~frmeBayFees() = default;
+// While its controls go the focus still moves, and there is no calculator window any more to be told of it.
+frmeBayFees::~frmeBayFees() {
+  qApp->disconnect(this);
+  m_form.SSTab1->disconnect(this);
+}
 
 void frmeBayFees::prepareLayout() {
   layout()->setSizeConstraint(QLayout::SetFixedSize);
